@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/LogEntry.h"
+#include "platform/Error.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// The outcome of a batch.
+struct RunResult {
+    std::vector<LogEntry> entries; ///< one a file, in the order in which they were handled
+    QSet<QString> seenKeys;        ///< of every file of the batch
+    QStringList waiting;           ///< names of files that wait for the assistant
+    std::optional<Error> stopped;  ///< set when the journal could not be written and the run ended early
+};
+
+/// What one rule would catch in one folder.
+struct MatchProbe {
+    QStringList matches; ///< last path components, in listing order
+    std::size_t tested = 0;
+};
+
+/// What a run now would do to one file.
+struct PreviewItem {
+    QString fileName;
+    QString ruleName;
+    QStringList actions;
+};
+
+} // namespace quillon

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "model/RawValue.h"
+
+#include <cstdint>
+
+namespace quillon {
+
+enum class FileKind : std::uint8_t {
+    image,
+    video,
+    audio,
+    document,
+    pdf,
+    archive,
+    code,
+    folder,
+    other,
+};
+
+template <>
+inline constexpr auto rawValues<FileKind> = std::to_array<std::u16string_view>({
+    u"image",
+    u"video",
+    u"audio",
+    u"document",
+    u"pdf",
+    u"archive",
+    u"code",
+    u"folder",
+    u"other",
+});
+
+} // namespace quillon

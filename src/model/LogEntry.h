@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/Error.h"
+#include "platform/Clock.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <QUuid>
+
+#include <optional>
+
+namespace quillon {
+
+class JsonReader;
+
+/// What happened to one file in one run, and what is needed to take it back.
+struct LogEntry {
+    QUuid id = QUuid::createUuid();
+    Timestamp date;
+    QString fileName; ///< at the time of the operation
+    QString ruleName;
+    QString actionSummary;
+    QString folderName;
+    std::optional<QUuid> folderID;
+    bool isError = false;  ///< some action failed
+    bool undoable = false; ///< the file ended somewhere else and can be moved back
+    std::optional<QString> originalPath;
+    std::optional<QString> currentPath;
+    std::optional<QString> trashedPath;
+    std::optional<QUuid> batchID;
+
+    bool operator==(const LogEntry&) const = default;
+};
+
+[[nodiscard]] QJsonObject toJson(const LogEntry& entry);
+[[nodiscard]] Expected<LogEntry> logEntryFromJson(const JsonReader& json, Timestamp now);
+
+} // namespace quillon

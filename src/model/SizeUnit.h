@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/RawValue.h"
+
+#include <cstdint>
+
+namespace quillon {
+
+enum class SizeUnit : std::uint8_t {
+    kb,
+    mb,
+    gb,
+};
+
+template <>
+inline constexpr auto rawValues<SizeUnit> = std::to_array<std::u16string_view>({
+    u"KB",
+    u"MB",
+    u"GB",
+});
+
+} // namespace quillon

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/RawValue.h"
+
+#include <cstdint>
+
+namespace quillon {
+
+enum class SortStrategy : std::uint8_t {
+    byKind,
+    byMonth,
+    byExtension,
+};
+
+template <>
+inline constexpr auto rawValues<SortStrategy> = std::to_array<std::u16string_view>({
+    u"By kind",
+    u"By month",
+    u"By extension",
+});
+
+} // namespace quillon

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quillon {
+
+/// The longest name that a file system takes, in bytes.
+inline constexpr std::size_t maxNameBytes = 255;
+
+/// A name cut at its last dot. A leading dot starts no extension, nor does a trailing one.
+struct NameParts {
+    std::string_view stem;
+    std::string_view extension; ///< without the dot; empty when there is none
+};
+[[nodiscard]] NameParts splitName(std::string_view name);
+
+/// The last component of a path, trailing slashes left out.
+[[nodiscard]] std::string_view lastComponent(std::string_view path);
+
+/// The path without its last component; "/" stays "/".
+[[nodiscard]] std::string_view parentPath(std::string_view path);
+
+[[nodiscard]] std::string joinPath(std::string_view folder, std::string_view name);
+
+/// Shortens the stem on a character boundary so that the whole fits in maxNameBytes.
+[[nodiscard]] std::string fittedName(std::string_view stem, std::string_view extension);
+
+/// The Nth candidate beside a taken name: "a.txt" → "a 2.txt". `number` is 2 or more.
+[[nodiscard]] std::string numberedName(std::string_view name, unsigned number);
+
+/// Strict UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
+[[nodiscard]] bool isValidUtf8(std::string_view bytes);
+
+} // namespace quillon
