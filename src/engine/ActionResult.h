@@ -18,6 +18,7 @@ struct ActionResult {
     Place place = Place::same;
     bool succeeded = true;
     std::string path;        ///< where the file is now, unless it is gone
+    std::string copyPath;    ///< of a copy that was made
     std::string trashedPath; ///< where the trash put it, or an unpacked archive
     QStringList phrases;     ///< for the log; none when nothing happened
 };
