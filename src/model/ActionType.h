@@ -35,4 +35,7 @@ inline constexpr auto rawValues<ActionType> = std::to_array<std::u16string_view>
     u"Move to Trash",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<ActionType> = u"an action";
+
 } // namespace quillon

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Error.h"
 #include "model/ConditionAttribute.h"
 #include "model/MatchOperator.h"
 #include "model/SizeUnit.h"
+#include "platform/Error.h"
 
 #include <QJsonObject>
 #include <QString>

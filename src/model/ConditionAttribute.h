@@ -37,4 +37,7 @@ inline constexpr auto rawValues<ConditionAttribute> = std::to_array<std::u16stri
     u"Dobbin says it",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<ConditionAttribute> = u"an attribute";
+
 } // namespace quillon

@@ -31,4 +31,7 @@ inline constexpr auto rawValues<FileKind> = std::to_array<std::u16string_view>({
     u"other",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<FileKind> = u"a kind";
+
 } // namespace quillon

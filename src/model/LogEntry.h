@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Error.h"
 #include "platform/Clock.h"
+#include "platform/Error.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -30,6 +30,8 @@ struct LogEntry {
     std::optional<QUuid> batchID;
 
     bool operator==(const LogEntry&) const = default;
+
+    [[nodiscard]] bool canUndo() const { return undoable && originalPath; }
 };
 
 [[nodiscard]] QJsonObject toJson(const LogEntry& entry);

@@ -19,4 +19,7 @@ inline constexpr auto rawValues<MatchMode> = std::to_array<std::u16string_view>(
     u"none",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<MatchMode> = u"a match mode";
+
 } // namespace quillon

@@ -37,4 +37,7 @@ inline constexpr auto rawValues<MatchOperator> = std::to_array<std::u16string_vi
     u"after",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<MatchOperator> = u"an operator";
+
 } // namespace quillon

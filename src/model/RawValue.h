@@ -10,15 +10,22 @@
 
 namespace quillon {
 
-/// The stored strings of an enumeration in declared order, specialised beside each enumeration. Where
-/// a raw value is an English phrase it is also the label shown to people.
+/// The stored strings of an enumeration in declared order, specialised beside each enumeration.
+/// Where a raw value is an English phrase it is also the label shown to people.
 template <typename E>
 inline constexpr std::array<std::u16string_view, 0> rawValues{};
 
+/// What one case is called in an error, with its article: "an operator".
+template <typename E>
+inline constexpr std::u16string_view rawValueNoun{};
+
+[[nodiscard]] inline QString toQString(std::u16string_view text) {
+    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
 template <typename E>
 [[nodiscard]] QString rawValue(E value) {
-    const std::u16string_view text = rawValues<E>[static_cast<std::size_t>(value)];
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+    return toQString(rawValues<E>[static_cast<std::size_t>(value)]);
 }
 
 template <typename E>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Error.h"
 #include "model/Condition.h"
 #include "model/MatchMode.h"
 #include "model/RuleAction.h"
+#include "platform/Error.h"
 
 #include <QJsonObject>
 #include <QString>

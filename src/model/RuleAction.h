@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Error.h"
 #include "model/ActionType.h"
 #include "model/SortStrategy.h"
 #include "model/TagColor.h"
+#include "platform/Error.h"
 
 #include <QJsonObject>
 #include <QString>

@@ -23,4 +23,7 @@ inline constexpr auto rawValues<ScheduleInterval> = std::to_array<std::u16string
     u"Daily",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<ScheduleInterval> = u"a schedule";
+
 } // namespace quillon

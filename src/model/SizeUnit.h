@@ -19,4 +19,7 @@ inline constexpr auto rawValues<SizeUnit> = std::to_array<std::u16string_view>({
     u"GB",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<SizeUnit> = u"a size unit";
+
 } // namespace quillon

@@ -19,4 +19,7 @@ inline constexpr auto rawValues<SortStrategy> = std::to_array<std::u16string_vie
     u"By extension",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<SortStrategy> = u"a way to sort";
+
 } // namespace quillon

@@ -27,4 +27,7 @@ inline constexpr auto rawValues<TagColor> = std::to_array<std::u16string_view>({
     u"gray",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<TagColor> = u"a tag colour";
+
 } // namespace quillon

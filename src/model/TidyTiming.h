@@ -25,4 +25,7 @@ inline constexpr auto rawValues<TidyTiming> = std::to_array<std::u16string_view>
     u"manual",
 });
 
+template <>
+inline constexpr std::u16string_view rawValueNoun<TidyTiming> = u"a timing";
+
 } // namespace quillon

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/Error.h"
 #include "model/Rule.h"
 #include "model/ScheduleInterval.h"
+#include "platform/Error.h"
 
 #include <QJsonObject>
 #include <QString>
