@@ -38,4 +38,7 @@ inline constexpr auto rawValues<ActionType> = std::to_array<std::u16string_view>
 template <>
 inline constexpr std::u16string_view rawValueNoun<ActionType> = u"an action";
 
+/// The name of the system symbol shown beside the type.
+[[nodiscard]] QString symbol(ActionType type);
+
 } // namespace quillon

@@ -20,7 +20,7 @@ struct Condition {
     QUuid id = QUuid::createUuid();
     ConditionAttribute attribute = ConditionAttribute::name;
     MatchOperator op = MatchOperator::contains;
-    QString value;
+    QString value = {};
     std::optional<SizeUnit> unit = SizeUnit::mb; ///< of a size; absent means MB
 
     bool operator==(const Condition&) const = default;

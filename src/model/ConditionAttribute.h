@@ -1,8 +1,10 @@
 #pragma once
 
+#include "model/MatchOperator.h"
 #include "model/RawValue.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace quillon {
 
@@ -39,5 +41,9 @@ inline constexpr auto rawValues<ConditionAttribute> = std::to_array<std::u16stri
 
 template <>
 inline constexpr std::u16string_view rawValueNoun<ConditionAttribute> = u"an attribute";
+
+/// The operators that people and the rule writer may choose, in the order in which they are
+/// offered. A record may hold another one; it is then up to matching what that means.
+[[nodiscard]] std::vector<MatchOperator> allowedOperators(ConditionAttribute attribute);
 
 } // namespace quillon

@@ -34,4 +34,7 @@ inline constexpr auto rawValues<FileKind> = std::to_array<std::u16string_view>({
 template <>
 inline constexpr std::u16string_view rawValueNoun<FileKind> = u"a kind";
 
+/// "Images", "PDFs": for sentences, and the subfolder that files of the kind are sorted into.
+[[nodiscard]] QString label(FileKind kind);
+
 } // namespace quillon

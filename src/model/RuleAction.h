@@ -20,13 +20,13 @@ class JsonReader;
 struct RuleAction {
     QUuid id = QUuid::createUuid();
     ActionType type = ActionType::move;
-    std::optional<QString> destination; ///< folder path; "~" is the home folder
+    std::optional<QString> destination = std::nullopt; ///< folder path; "~" is the home folder
     QString renamePattern = QStringLiteral("{name}");
     TagColor tag = TagColor::blue;
     SortStrategy sortBy = SortStrategy::byKind;
     bool keepOriginal = false; ///< leave an unpacked archive where it is
     QString scriptCommand = QStringLiteral("echo \"$1\"");
-    std::optional<QString> shortcutName;
+    std::optional<QString> shortcutName = std::nullopt;
 
     bool operator==(const RuleAction&) const = default;
 };

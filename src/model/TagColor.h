@@ -30,4 +30,7 @@ inline constexpr auto rawValues<TagColor> = std::to_array<std::u16string_view>({
 template <>
 inline constexpr std::u16string_view rawValueNoun<TagColor> = u"a tag colour";
 
+/// "Red": the name of the tag that the colour puts on a file.
+[[nodiscard]] QString label(TagColor color);
+
 } // namespace quillon

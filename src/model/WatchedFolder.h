@@ -2,6 +2,7 @@
 
 #include "model/Rule.h"
 #include "model/ScheduleInterval.h"
+#include "model/TidyTiming.h"
 #include "platform/Error.h"
 
 #include <QJsonObject>
@@ -18,20 +19,26 @@ class JsonReader;
 /// A folder that the user has added, with its rules in the order in which they are tried.
 struct WatchedFolder {
     QUuid id = QUuid::createUuid();
-    QString path; ///< absolute
+    QString path = {}; ///< absolute
     bool isWatching = true;
-    std::vector<Rule> rules;
-    std::optional<int> colorIndex;
+    std::vector<Rule> rules = {};
+    std::optional<int> colorIndex = std::nullopt;
     bool isRecursive = false;
     bool onlyNewFiles = false;
     bool skipOnlineOnly = false;
-    std::optional<QString> symbolName;
+    std::optional<QString> symbolName = std::nullopt;
     ScheduleInterval schedule = ScheduleInterval::off;
 
     bool operator==(const WatchedFolder&) const = default;
 
     /// The last component of the path.
     [[nodiscard]] QString name() const;
+
+    [[nodiscard]] TidyTiming timing() const { return timingOf(isWatching, schedule); }
+    void setTiming(TidyTiming timing) {
+        isWatching = watchesLive(timing);
+        schedule = scheduleOf(timing);
+    }
 };
 
 /// Whether a path lies in the folder of a cloud provider.
