@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/TextSubject.h"
 #include "model/ConditionAttribute.h"
 #include "model/FileKind.h"
 #include "platform/FileSystem.h"
@@ -10,45 +11,62 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace quillon {
 
 class KindClassifier;
 
-/// What the conditions may ask about one file. Each fact is read when it is first asked for and never
-/// twice. Text is in Unicode canonical composition. One thread at a time.
+/// What the conditions may ask about one file. Each fact is read when it is first asked for and
+/// never twice. Text is in Unicode canonical composition; what is returned by view or reference
+/// holds until `reset`. One thread at a time.
 class FileFacts {
 public:
-    /// `file.path` is relative to `folder`; all three must outlive the facts.
+    /// `file.path` is relative to `folder`; all four must outlive the facts.
     FileFacts(const Platform& platform, KindClassifier& kinds, const std::string& folder,
               const ListedFile& file);
 
-    [[nodiscard]] const std::string& path() const; ///< absolute
-    [[nodiscard]] const FileStatus& status() const { return file_.status; }
+    /// Turns to another file of the same folder, which must outlive the facts. Cheaper than new
+    /// ones.
+    void reset(const ListedFile& file);
 
-    [[nodiscard]] const QString& fullName();
-    [[nodiscard]] const QString& name(); ///< without the extension
-    [[nodiscard]] const QString& extension();
-    [[nodiscard]] const QString& lowerFullName();
-    [[nodiscard]] const QString& lowerName();
-    [[nodiscard]] const QString& lowerExtension();
+    [[nodiscard]] const std::string& path() const; ///< absolute
+    [[nodiscard]] const FileStatus& status() const { return file_->status; }
+
+    [[nodiscard]] TextSubject fullName();
+    [[nodiscard]] TextSubject name(); ///< without the extension
+    [[nodiscard]] TextSubject extension();
     [[nodiscard]] FileKind kind();
     [[nodiscard]] const Expected<QStringList>& tags(); ///< lower-cased
-    [[nodiscard]] const QStringList& whereFrom();
-    /// The date behind one of the four date attributes.
+    [[nodiscard]] const std::vector<TextSubject>& whereFrom();
+    /// The date behind one of the four date attributes; none for any other attribute.
     [[nodiscard]] std::optional<Timestamp> date(ConditionAttribute attribute) const;
 
 private:
+    /// The full name in one spelling, and where it is cut.
+    struct NameText {
+        QString full;
+        qsizetype stemLength = 0;
+
+        void cut(bool hasExtension);
+        [[nodiscard]] QStringView stem() const { return QStringView(full).first(stemLength); }
+        [[nodiscard]] QStringView extension() const;
+    };
+    void readName();
+
     const Platform& platform_;
     KindClassifier& kinds_;
     const std::string& folder_;
-    const ListedFile& file_;
-    mutable std::string path_;
-    QString fullName_, name_, extension_, lowerFullName_, lowerName_, lowerExtension_;
-    bool namesRead_ = false;
+    const ListedFile* file_;
+    mutable std::string path_; ///< empty until asked for
+    NameText name_;
+    NameText lowerName_;
+    bool nameIsRead_ = false;
     std::optional<FileKind> kind_;
     std::optional<Expected<QStringList>> tags_;
-    std::optional<QStringList> whereFrom_;
+    QStringList whereFromTexts_; ///< what whereFrom_ points into
+    std::optional<std::vector<TextSubject>> whereFrom_;
 };
 
 } // namespace quillon

@@ -1,0 +1,56 @@
+#include "engine/CompiledRule.h"
+
+#include "engine/conditions/ConditionTable.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+CompiledRule::CompiledRule(Rule rule) : rule_(std::move(rule)), needsDobbin_(rule_.needsDobbin()) {
+    for (const Condition& condition : rule_.conditions) {
+        const ConditionType& type = conditionType(condition.attribute);
+        (type.asksAssistant ? asking_ : plain_).push_back(type.compile(condition));
+        if (!captures_ && condition.op == MatchOperator::matchesRegex && type.captures != nullptr)
+            captures_ = type.captures(condition);
+    }
+    renamesWithDobbin_ = std::ranges::any_of(rule_.actions, [](const RuleAction& action) {
+        return action.type == ActionType::renameWithDobbin;
+    });
+}
+
+MatchOutcome CompiledRule::match(MatchContext& context) const {
+    if (applies(context))
+        return MatchOutcome::matches;
+    return needsDobbin_ && context.judge.isWaiting(context.file.path())
+               ? MatchOutcome::waiting
+               : MatchOutcome::doesNotMatch;
+}
+
+bool CompiledRule::applies(MatchContext& context) const {
+    return !rule_.conditions.empty() && conditionsHold(context) &&
+           (!renamesWithDobbin_ || context.judge.smartName(context.file.path()).has_value());
+}
+
+bool CompiledRule::conditionsHold(MatchContext& context) const {
+    const bool unlessDecided = rule_.matchMode != MatchMode::any;
+    const Truth deciding = rule_.matchMode == MatchMode::all ? Truth::no : Truth::yes;
+    for (const CompiledCondition& test : plain_)
+        if (test(context) == deciding)
+            return !unlessDecided;
+
+    bool decided = false;
+    bool unknown = false;
+    // All of them, whatever the first ones say: asking is what queues a question.
+    for (const CompiledCondition& test : asking_) {
+        const Truth result = test(context);
+        decided = decided || result == deciding;
+        unknown = unknown || result == Truth::unknown;
+    }
+    return !unknown && decided != unlessDecided;
+}
+
+QStringList CompiledRule::captures(FileFacts& file) const {
+    return captures_ ? captures_(file) : QStringList();
+}
+
+} // namespace quillon

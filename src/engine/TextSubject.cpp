@@ -1,0 +1,15 @@
+#include "engine/TextSubject.h"
+
+namespace quillon {
+
+QString composed(const QString& text) {
+    return text.normalized(QString::NormalizationForm_C);
+}
+
+QString folded(const QString& text) {
+    // Composed once more: a capital and its accent may have no composed form where the small letter
+    // has one.
+    return composed(composed(text).toLower());
+}
+
+} // namespace quillon

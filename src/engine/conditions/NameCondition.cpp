@@ -1,0 +1,23 @@
+#include "engine/conditions/ConditionTable.h"
+#include "engine/conditions/TextCondition.h"
+
+namespace quillon {
+namespace {
+
+TextSubject subject(FileFacts& file) {
+    return file.name();
+}
+
+CompiledCondition compile(const Condition& condition) {
+    return compileText(condition, subject);
+}
+
+CompiledCaptures captures(const Condition& condition) {
+    return textCaptures(condition, subject);
+}
+
+} // namespace
+
+constinit const ConditionType nameCondition{ConditionAttribute::name, compile, captures};
+
+} // namespace quillon

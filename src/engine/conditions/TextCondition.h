@@ -1,0 +1,14 @@
+#pragma once
+
+#include "engine/CompiledCondition.h"
+#include "model/Condition.h"
+
+namespace quillon {
+
+/// Reads the text that a condition is about.
+using ReadSubject = TextSubject (*)(FileFacts& file);
+
+[[nodiscard]] CompiledCondition compileText(const Condition& condition, ReadSubject read);
+[[nodiscard]] CompiledCaptures textCaptures(const Condition& condition, ReadSubject read);
+
+} // namespace quillon
