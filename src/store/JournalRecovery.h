@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "store/JournalFormat.h"
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace quillon {
+
+/// What an interrupted run did to the files that it wrote down, found by looking for each one:
+/// first where the journal last knew it, then in the folders where its rule would put it. Changes
+/// nothing on the disk.
+///
+/// A file that nothing has happened to gives no entry. One that has moved gives an entry from which
+/// the move can be undone; one that can't be found gives an error. Entries whose run is in `logs`
+/// already are not given again.
+[[nodiscard]] std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
+                                                     const std::vector<LogEntry>& logs,
+                                                     const FileSystem& fileSystem);
+
+/// The folders in which the run may have left hidden temporaries.
+[[nodiscard]] std::set<std::string> touchedFolders(const JournalContents& journal);
+
+} // namespace quillon

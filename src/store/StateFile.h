@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Storage.h"
+#include "store/PersistedState.h"
+
+#include <optional>
+#include <string>
+
+namespace quillon {
+
+/// The file that holds the PersistedState.
+class StateFile {
+public:
+    /// Borrows `storage`.
+    StateFile(Storage& storage, std::string path) : storage_(storage), path_(std::move(path)) {}
+
+    /// What the file holds; an empty state where there is none. Changes nothing. Fails with
+    /// `invalid` when it can't be decoded, otherwise as Storage::readWhole does.
+    [[nodiscard]] Expected<PersistedState> read(Timestamp now) const;
+
+    struct Loaded {
+        PersistedState state;
+        std::optional<QString> warning; ///< a sentence: what was wrong and where the file is now
+    };
+    /// As read(), but a file that can't be used is first kept aside as
+    /// "store.json.unreadable-DATE", and the state is empty. Fails only when it can't be kept aside
+    /// either.
+    [[nodiscard]] Expected<Loaded> load(Timestamp now);
+
+    [[nodiscard]] Expected<void> save(const PersistedState& state);
+
+private:
+    Storage& storage_;
+    std::string path_;
+};
+
+} // namespace quillon

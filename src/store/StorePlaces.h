@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/FileNames.h"
+
+#include <string>
+
+namespace quillon {
+
+/// Where Quillon's own data lies. All in one folder, so that one rename or one lock covers it.
+struct StorePlaces {
+    std::string folder;
+
+    explicit StorePlaces(std::string dataFolder) : folder(std::move(dataFolder)) {}
+
+    [[nodiscard]] std::string state() const { return joinPath(folder, "store.json"); }
+    [[nodiscard]] std::string journal() const { return joinPath(folder, "journal"); }
+    [[nodiscard]] std::string lock() const { return joinPath(folder, "store.lock"); }
+};
+
+} // namespace quillon

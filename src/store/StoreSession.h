@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "store/StateFile.h"
+#include "store/StoreLock.h"
+#include "store/StorePlaces.h"
+#include "store/UndoJournal.h"
+
+#include <memory>
+
+namespace quillon {
+
+/// The store opened for changing by one process: the lock is held for as long as the session lives,
+/// and what an interrupted run left behind has been taken in.
+class StoreSession {
+public:
+    /// Everything borrowed for the session's life.
+    struct Services {
+        Storage& storage;
+        FileSystem& fileSystem;
+        const Clock& clock;
+        std::function<void(std::chrono::milliseconds)> pause;
+        std::string temporaryTag;
+    };
+
+    /// Makes the data folder where there is none. Fails with `timedOut` when another process holds
+    /// the store, otherwise when something of it can't be read or written.
+    [[nodiscard]] static Expected<std::unique_ptr<StoreSession>> open(const StorePlaces& places,
+                                                                      const Services& services);
+
+    [[nodiscard]] PersistedState& state() { return state_; }
+    [[nodiscard]] RunJournal& journal() { return *journal_; }
+    /// Sentences about what was found when the store was opened.
+    [[nodiscard]] const QStringList& warnings() const { return warnings_; }
+
+    /// Saves the state durably, then clears the journal.
+    [[nodiscard]] Expected<void> save();
+
+private:
+    StoreSession(const StorePlaces& places, const Services& services);
+
+    [[nodiscard]] Expected<void> openFiles(const StorePlaces& places);
+    [[nodiscard]] Expected<void> recover(const std::string& journalPath);
+
+    Services services_;
+    StateFile stateFile_;
+    std::unique_ptr<FileLock> lock_;
+    PersistedState state_;
+    std::unique_ptr<UndoJournal> journal_;
+    QStringList warnings_;
+};
+
+/// What a command that only reads sees.
+struct StoreView {
+    PersistedState state;
+    QStringList warnings;
+};
+
+/// Reads the state without changing anything and without waiting, unless an interrupted run has
+/// left a journal and nobody is at work: then that is taken in first. Fails with `invalid` when the
+/// state can't be decoded.
+[[nodiscard]] Expected<StoreView> viewStore(const StorePlaces& places,
+                                            const StoreSession::Services& services);
+
+} // namespace quillon
