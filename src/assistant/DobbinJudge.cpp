@@ -1,0 +1,97 @@
+#include "assistant/DobbinJudge.h"
+
+namespace quillon {
+
+Verdict DobbinJudge::verdict(const std::string& path, const QString& question) {
+    const auto file = keyOf(path);
+    if (!file)
+        return Verdict::unknown;
+    const VerdictRequest request{.question = question, .file = *file};
+    const Timestamp now = clock_.now();
+
+    const std::scoped_lock guard(lock_);
+    if (const auto matches = verdicts_.answer(request))
+        return *matches ? Verdict::yes : Verdict::no;
+    if (verdicts_.queue(request, now))
+        ++outstandingVerdicts_[*file];
+    return Verdict::unknown;
+}
+
+std::optional<QString> DobbinJudge::smartName(const std::string& path) {
+    const auto file = keyOf(path);
+    if (!file)
+        return std::nullopt;
+    const Timestamp now = clock_.now();
+
+    const std::scoped_lock guard(lock_);
+    if (auto name = names_.answer(*file))
+        return name;
+    names_.queue(*file, now);
+    return std::nullopt;
+}
+
+bool DobbinJudge::isWaiting(const std::string& path) {
+    {
+        const std::scoped_lock guard(lock_);
+        if (outstandingVerdicts_.empty() && !names_.hasOutstanding())
+            return false;
+    }
+    const auto file = keyOf(path);
+    const std::scoped_lock guard(lock_);
+    return file && (outstandingVerdicts_.contains(*file) || names_.isOutstanding(*file));
+}
+
+bool DobbinJudge::hasPending() const {
+    const std::scoped_lock guard(lock_);
+    return verdicts_.hasPending() || names_.hasPending();
+}
+
+DobbinJudge::Pending DobbinJudge::takePending(std::size_t maxVerdicts, std::size_t maxNames) {
+    const std::scoped_lock guard(lock_);
+    return {.verdicts = verdicts_.take(maxVerdicts), .names = names_.take(maxNames)};
+}
+
+void DobbinJudge::recordVerdict(const VerdictRequest& request, bool matches) {
+    const std::scoped_lock guard(lock_);
+    if (verdicts_.record(request, matches))
+        closeVerdict(request.file);
+}
+
+void DobbinJudge::recordName(const FileKey& file, const QString& baseName) {
+    const std::scoped_lock guard(lock_);
+    names_.record(file, baseName);
+}
+
+void DobbinJudge::recordVerdictFailure(const VerdictRequest& request) {
+    const Timestamp now = clock_.now();
+    const std::scoped_lock guard(lock_);
+    if (verdicts_.recordFailure(request, now))
+        closeVerdict(request.file);
+}
+
+void DobbinJudge::recordNameFailure(const FileKey& file) {
+    const Timestamp now = clock_.now();
+    const std::scoped_lock guard(lock_);
+    names_.recordFailure(file, now);
+}
+
+void DobbinJudge::clearAnswers() {
+    const std::scoped_lock guard(lock_);
+    verdicts_.clearAnswers();
+    names_.clearAnswers();
+}
+
+std::optional<FileKey> DobbinJudge::keyOf(const std::string& path) const {
+    const auto status = fileSystem_.status(path);
+    if (!status)
+        return std::nullopt;
+    return FileKey{.path = path, .size = status->size, .modified = status->modified};
+}
+
+void DobbinJudge::closeVerdict(const FileKey& file) {
+    const auto found = outstandingVerdicts_.find(file);
+    if (found != outstandingVerdicts_.end() && --found->second == 0)
+        outstandingVerdicts_.erase(found);
+}
+
+} // namespace quillon
