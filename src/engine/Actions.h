@@ -27,8 +27,10 @@ struct ActionContext {
     const EngineSettings& settings;
     std::string path; ///< where the file is now, absolute
     FileStatus status;
-    unsigned counter = 1; ///< the rule's running number of this file in this batch
-    QStringList captures; ///< for the tokens {1} to {9}
+    unsigned counter = 1;           ///< the rule's running number of this file in this batch
+    QStringList captures;           ///< for the tokens {1} to {9}
+    std::string watchedFolder = {}; ///< the folder being tidied, absolute; empty when there is none
+    std::string matchedPath = {};   ///< where the file was when the rule took it; empty: at `path`
 };
 
 /// Carries the action out. Never fails: what went wrong is a phrase of the result.

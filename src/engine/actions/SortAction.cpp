@@ -1,0 +1,53 @@
+#include "engine/SubfolderName.h"
+#include "engine/actions/ActionFunctions.h"
+#include "engine/actions/Outcome.h"
+#include "engine/actions/Placing.h"
+#include "platform/FileNames.h"
+
+namespace quillon {
+
+namespace {
+
+std::string sortFolder(const RuleAction& action, const ActionContext& context) {
+    return joinPath(parentPath(context.path), subfolderName(action.sortBy, context));
+}
+
+/// Whether the file lies in a folder of that name: the one that holds it or, inside of the watched
+/// folder, any above. Otherwise sorting by kind and then by month would nest deeper on each run.
+bool liesIn(std::string_view name, const ActionContext& context) {
+    std::string_view folder = parentPath(context.path);
+    if (lastComponent(folder) == name)
+        return true;
+    if (context.watchedFolder.empty())
+        return false;
+    const std::string root = context.watchedFolder + '/';
+    for (; folder.starts_with(root); folder = parentPath(folder))
+        if (lastComponent(folder) == name)
+            return true;
+    return false;
+}
+
+} // namespace
+
+ActionResult performSort(const RuleAction& action, const ActionContext& context) {
+    const std::string folder = sortFolder(action, context);
+    if (liesIn(lastComponent(folder), context))
+        return nothingHappened(context);
+    const Expected<Placement> placed = placeInto(context, folder, Transfer::move);
+    if (!placed)
+        return failed(context, QStringLiteral("sort failed: ") + placed.error().message);
+    return moved(context, *placed, QStringLiteral("sorted into ") + nameOf(folder));
+}
+
+QString describeSort(const RuleAction& action, const ActionContext& context) {
+    return QStringLiteral("Sort into ") + nameOf(sortFolder(action, context));
+}
+
+std::vector<std::string> sortTargets(const RuleAction& action, const ActionContext& context) {
+    const std::string folder = sortFolder(action, context);
+    if (liesIn(lastComponent(folder), context))
+        return {};
+    return {folder};
+}
+
+} // namespace quillon
