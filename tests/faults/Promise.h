@@ -1,0 +1,26 @@
+#pragma once
+
+#include "faults/Report.h"
+#include "faults/World.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+/// What no program could have prevented under the fault at hand.
+struct Excuses {
+    bool leftovers = false;  ///< a temporary could not be removed
+    bool doubles = false;    ///< nor could a second name of the same file
+    bool lostUpdate = false; ///< somebody wrote to the file between the last look and its removal
+};
+
+/// Compares the disk with the file-safety promise: every file whole exactly once, nothing
+/// overwritten, nothing half-written under a visible name, nothing said that is not so. `report` is
+/// absent when the operation was killed. One sentence a breach.
+[[nodiscard]] std::vector<std::string> breaches(const World& world, const DiskState& after,
+                                                const std::optional<Report>& report,
+                                                const Excuses& excuses = {});
+
+} // namespace quillon::test

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "faults/Scenario.h"
+#include "support/SyscallTracer.h"
+
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+[[nodiscard]] std::string syscallName(long number);
+
+/// The errors that the call could give on a full, failing or forbidding file system; none for a
+/// call that has nothing to do with files.
+[[nodiscard]] std::vector<int> possibleErrors(const SyscallStop& stop);
+
+/// Whether the call takes a name away.
+[[nodiscard]] bool isRemoval(long number);
+
+/// What the machine at hand makes of a call that no fault is about. Transfers are cut short, so
+/// that there are moments at which a file is half copied, and syncing takes no time: a process that
+/// is killed can't tell.
+[[nodiscard]] SyscallDecision ordinarily(Machine machine, const SyscallStop& stop);
+
+} // namespace quillon::test

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "faults/Scenario.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+/// Two folders on different file systems where that can be had, for as long as the process lives.
+class Ground {
+public:
+    static const Ground& instance();
+    ~Ground();
+
+    [[nodiscard]] const std::string& near() const { return near_; }
+    /// Absent where this machine offers no second file system.
+    [[nodiscard]] const std::optional<std::string>& far() const { return far_; }
+    /// Whether `far` is the top of a file system that is ours alone.
+    [[nodiscard]] bool ownsFar() const { return ownsFar_; }
+
+    /// A new file system of the kind that `mount` makes, at a folder of its own; absent where the
+    /// machine does not let us.
+    [[nodiscard]] std::optional<std::string> mountTmpfs(const std::string& name,
+                                                        const std::string& options) const;
+    [[nodiscard]] std::optional<std::string> mountExt4(const std::string& name,
+                                                       std::size_t megabytes) const;
+
+private:
+    Ground();
+    void findFar();
+
+    std::string near_;
+    std::optional<std::string> far_;
+    bool mayMount_ = false;
+    bool ownsFar_ = false;
+};
+
+/// Why the scenario can't be staged here; absent where it can.
+[[nodiscard]] std::optional<std::string> missingFor(const Scenario& scenario);
+
+struct Thing {
+    std::string path;
+    Law law = Law::moves;
+    bool contentsOnly = false;
+    /// The last is what it is now. Earlier ones were true before somebody changed it.
+    std::vector<DiskTree> versions;
+};
+
+/// Fresh folders and files for one run of an operation, gone with the object.
+class World {
+public:
+    explicit World(const Scenario& scenario);
+    /// Between folders that are there already.
+    World(const Scenario& scenario, Places places);
+    ~World();
+    World(const World&) = delete;
+    World& operator=(const World&) = delete;
+
+    [[nodiscard]] DiskState read() const { return readDisk(roots_); }
+    [[nodiscard]] bool mayAppear(const std::string& folder) const;
+
+    /// Another program's doings between two system calls of the operation.
+    void createFile(const std::string& path);
+    void createDanglingLink(const std::string& path);
+    void appendTo(Thing& thing);
+    void replace(Thing& thing);
+
+    Places places;
+    std::string wanted;
+    std::vector<Thing> things;
+    DiskState before;
+    bool crossesDevices = false;
+
+private:
+    void fill(const Scenario& scenario);
+
+    std::vector<std::string> roots_;
+    std::vector<std::string> madeFolders_;
+};
+
+[[nodiscard]] DiskItem sampleFile(const std::string& text, std::size_t size);
+
+} // namespace quillon::test
