@@ -26,8 +26,11 @@ bool isUnchanged(const FileStatus& now, const FileStatus& listed) {
 /// next one.
 bool absorb(const ActionResult& result, ActionType type, LogEntry& entry) {
     entry.isError = entry.isError || !result.succeeded;
-    for (const QString& phrase : result.phrases)
-        entry.actionSummary += (entry.actionSummary.isEmpty() ? u"" : u", ") + phrase;
+    for (const QString& phrase : result.phrases) {
+        if (!entry.actionSummary.isEmpty())
+            entry.actionSummary += QStringLiteral(", ");
+        entry.actionSummary += phrase;
+    }
     if (!result.trashedPath.empty())
         entry.trashedPath = text(result.trashedPath);
     if (!result.copyPath.empty())
@@ -56,7 +59,8 @@ BatchRun::BatchRun(const Setup& setup, const ReadyFiles& items, const std::vecto
     for (const Rule& rule : rules)
         if (rule.isEnabled)
             rules_.emplace_back(rule);
-    // A script may change any file of the folder, so the next file is matched only after it has run.
+    // A script may change any file of the folder, so the next file is matched only after it has
+    // run.
     const bool foreign = std::ranges::any_of(
         rules_, [](const CompiledRule& rule) { return runsForeignCode(rule.rule()); });
     groupSize_ = foreign ? 1 : fullGroup;
@@ -118,7 +122,9 @@ BatchRun::Taken BatchRun::planned(const ListedFile& file, const CompiledRule& ru
                     .path = facts.path(),
                     .status = file.status,
                     .counter = ++counters_[rule.rule().id],
-                    .captures = rule.captures(facts)},
+                    .captures = rule.captures(facts),
+                    .watchedFolder = items_.folder,
+                    .matchedPath = facts.path()},
         .intent = {.entry = {.date = setup_.platform.clock.now(),
                              .fileName = text(lastComponent(file.path)),
                              .ruleName = rule.rule().name,
@@ -126,7 +132,8 @@ BatchRun::Taken BatchRun::planned(const ListedFile& file, const CompiledRule& ru
                              .originalPath = originalPath,
                              .currentPath = originalPath,
                              .batchID = setup_.batchID},
-                   .status = file.status},
+                   .status = file.status,
+                   .targetFolders = {}},
     };
     if (!setup_.folder.id.isNull())
         taken.intent.entry.folderID = setup_.folder.id;
@@ -157,8 +164,8 @@ void BatchRun::act(Taken& taken) {
     ActionContext& context = taken.context;
     LogEntry& entry = taken.intent.entry;
 
-    // Whatever was decided holds for the file as it was listed; one that has changed since waits for
-    // the next run.
+    // Whatever was decided holds for the file as it was listed; one that has changed since waits
+    // for the next run.
     Expected<FileStatus> status = fileSystem.status(context.path);
     if (!status || !isUnchanged(*status, taken.file->status))
         return;

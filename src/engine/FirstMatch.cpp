@@ -11,9 +11,9 @@ namespace {
 // Below this many files another thread costs more than it saves.
 constexpr std::size_t filesWorthAThread = 1000;
 
-FirstMatch firstMatch(const MatchSetup& setup, MatchContext& context) {
-    for (std::size_t i = 0; i < setup.rules.size(); ++i) {
-        switch (setup.rules[i].match(context)) {
+FirstMatch firstMatch(const std::vector<CompiledRule>& rules, MatchContext& context) {
+    for (std::size_t i = 0; i < rules.size(); ++i) {
+        switch (rules[i].match(context)) {
         case MatchOutcome::matches:
             return {.rule = i};
         case MatchOutcome::waiting:
@@ -27,27 +27,33 @@ FirstMatch firstMatch(const MatchSetup& setup, MatchContext& context) {
 
 void matchRange(const MatchSetup& setup, std::span<const ListedFile* const> files,
                 std::span<FirstMatch> found) {
+    if (files.empty())
+        return;
+    // Rules of its own: threads that share one contend for its reference counts.
+    const std::vector<CompiledRule> rules = setup.rules;
     KindClassifier kinds(setup.platform.contentTypes);
+    FileFacts facts(setup.platform, kinds, setup.folder, *files.front());
+    MatchContext context{facts, setup.judge, setup.now};
     for (std::size_t i = 0; i < files.size(); ++i) {
-        FileFacts facts(setup.platform, kinds, setup.folder, *files[i]);
-        MatchContext context{facts, setup.judge, setup.now};
-        found[i] = firstMatch(setup, context);
+        facts.reset(*files[i]);
+        found[i] = firstMatch(rules, context);
     }
 }
 
 } // namespace
 
-std::vector<FirstMatch> firstMatches(const MatchSetup& setup, std::span<const ListedFile* const> files) {
+std::vector<FirstMatch> firstMatches(const MatchSetup& setup,
+                                     std::span<const ListedFile* const> files) {
     std::vector<FirstMatch> found(files.size());
-    const std::size_t threads =
-        std::clamp<std::size_t>(files.size() / filesWorthAThread, 1,
-                                std::max(1U, std::thread::hardware_concurrency()));
+    const std::size_t threads = std::clamp<std::size_t>(
+        files.size() / filesWorthAThread, 1, std::max(1U, std::thread::hardware_concurrency()));
     const std::size_t share = (files.size() + threads - 1) / threads;
     std::vector<std::jthread> others;
     for (std::size_t start = share; start < files.size(); start += share) {
         const std::size_t length = std::min(share, files.size() - start);
         others.emplace_back([&, start, length] {
-            matchRange(setup, files.subspan(start, length), std::span(found).subspan(start, length));
+            matchRange(setup, files.subspan(start, length),
+                       std::span(found).subspan(start, length));
         });
     }
     matchRange(setup, files.first(std::min(share, files.size())), found);

@@ -102,9 +102,8 @@ QSet<QString> RuleEngine::currentKeys(const WatchedFolder& folder) const {
 
 MatchProbe RuleEngine::probe(const Rule& rule, const ReadyFiles& ready) const {
     const std::vector<CompiledRule> rules{CompiledRule(rule)};
-    const std::vector<FirstMatch> matches =
-        firstMatches({platform_, judge_, rules, ready.folder, platform_.clock.now()},
-                     pointers(ready.files));
+    const std::vector<FirstMatch> matches = firstMatches(
+        {platform_, judge_, rules, ready.folder, platform_.clock.now()}, pointers(ready.files));
     MatchProbe probe{.tested = ready.files.size()};
     for (std::size_t i = 0; i < matches.size(); ++i)
         if (matches[i].rule)
@@ -118,9 +117,8 @@ std::vector<PreviewItem> RuleEngine::preview(const std::vector<Rule>& rules,
     for (const Rule& rule : rules)
         if (rule.isEnabled)
             enabled.emplace_back(rule);
-    const std::vector<FirstMatch> matches =
-        firstMatches({platform_, judge_, enabled, ready.folder, platform_.clock.now()},
-                     pointers(ready.files));
+    const std::vector<FirstMatch> matches = firstMatches(
+        {platform_, judge_, enabled, ready.folder, platform_.clock.now()}, pointers(ready.files));
 
     KindClassifier kinds(platform_.contentTypes);
     DateFormats dates;
@@ -140,7 +138,9 @@ std::vector<PreviewItem> RuleEngine::preview(const std::vector<Rule>& rules,
                                     .path = facts.path(),
                                     .status = file.status,
                                     .counter = ++counters[*matches[i].rule],
-                                    .captures = rule.captures(facts)};
+                                    .captures = rule.captures(facts),
+                                    .watchedFolder = ready.folder,
+                                    .matchedPath = facts.path()};
         PreviewItem item{.fileName = fileName(file), .ruleName = rule.rule().name, .actions = {}};
         for (const RuleAction& action : rule.rule().actions)
             item.actions.append(describeAction(action, context));
@@ -153,8 +153,8 @@ RunResult RuleEngine::execute(const ReadyFiles& items, const std::vector<Rule>& 
                               const WatchedFolder& folder, const QSet<QString>& skip,
                               std::optional<QUuid> batchID, RunJournal& journal,
                               const Progress& progress) const {
-    return BatchRun({platform_, judge_, settings_, folder, batchID, journal, progress}, items, rules,
-                    skip)
+    return BatchRun({platform_, judge_, settings_, folder, batchID, journal, progress}, items,
+                    rules, skip)
         .run();
 }
 
