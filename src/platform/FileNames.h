@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -23,11 +24,13 @@ struct NameParts {
 
 [[nodiscard]] std::string joinPath(std::string_view folder, std::string_view name);
 
-/// Shortens the stem on a character boundary so that the whole fits in maxNameBytes.
-[[nodiscard]] std::string fittedName(std::string_view stem, std::string_view extension);
+/// Shortens the stem on a character boundary so that the whole fits in `limit` bytes.
+[[nodiscard]] std::string fittedName(std::string_view stem, std::string_view extension,
+                                     std::size_t limit = maxNameBytes);
 
 /// The Nth candidate beside a taken name: "a.txt" → "a 2.txt". `number` is 2 or more.
-[[nodiscard]] std::string numberedName(std::string_view name, unsigned number);
+[[nodiscard]] std::string numberedName(std::string_view name, unsigned number,
+                                       std::size_t limit = maxNameBytes);
 
 /// Strict UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
 [[nodiscard]] bool isValidUtf8(std::string_view bytes);

@@ -12,15 +12,20 @@ namespace quillon {
 /// nobody else changes that folder. Any thread.
 class NumberHints {
 public:
-    /// The first number worth trying: 1, the wanted name itself, unless more is known.
-    [[nodiscard]] unsigned firstToTry(const std::string& wanted);
+    /// To be called before a placement in `folder`: forgets what somebody else's change made
+    /// doubtful.
+    void check(const std::string& folder);
 
-    /// To be called after each placement: `wanted` was asked for and got `number`.
+    /// The first number worth trying once `wanted` itself is taken: 2 unless more is known.
+    [[nodiscard]] unsigned next(const std::string& wanted);
+
+    /// To be called after a placement: `wanted` was asked for and got `number`, 1 being the name
+    /// itself.
     void placed(const std::string& wanted, unsigned number);
 
 private:
     struct FolderHints {
-        std::int64_t modified = 0; ///< the folder's modification time in nanoseconds
+        std::uint64_t modified = 0; ///< the folder's modification time, to be compared only
         std::unordered_map<std::string, unsigned> next;
     };
 

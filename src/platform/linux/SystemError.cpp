@@ -46,6 +46,8 @@ Error systemError(int code) {
                                                  : QStringLiteral("Error %1").arg(code)};
 }
 
-std::unexpected<Error> systemFailure(int code) { return std::unexpected(systemError(code)); }
+std::unexpected<Error> systemFailure(int code) {
+    return std::unexpected(systemError(code));
+}
 
 } // namespace quillon

@@ -13,8 +13,9 @@ public:
     /// `tag` consists of ASCII letters and digits.
     explicit TemporaryNames(std::string tag);
 
-    /// A name that this object has not given before. `kind` is "part" or "unpack".
-    [[nodiscard]] std::string next(std::string_view kind);
+    /// A name that this object has not given before and that nothing has in `folder`, a descriptor.
+    /// `kind` is "part" or "unpack".
+    [[nodiscard]] std::string nextFree(int folder, std::string_view kind);
 
     [[nodiscard]] static bool isTemporaryOf(std::string_view name, std::string_view tag);
 
