@@ -72,7 +72,7 @@ std::optional<FileKind> KindClassifier::lookUp(QStringView extension) const {
         return std::nullopt;
     }
     // A name of our own, so that nothing but the extension counts in what is remembered.
-    return kindByConformance(types_.conformance(QStringLiteral("x.") + extension));
+    return kindByConformance(types_.conformance(QStringLiteral("x.").append(extension)));
 }
 
 } // namespace quillon
