@@ -15,9 +15,9 @@ FirstMatch firstMatch(const std::vector<CompiledRule>& rules, MatchContext& cont
     for (std::size_t i = 0; i < rules.size(); ++i) {
         switch (rules[i].match(context)) {
         case MatchOutcome::matches:
-            return {.rule = i};
+            return {.rule = i, .waiting = false};
         case MatchOutcome::waiting:
-            return {.waiting = true};
+            return {.rule = std::nullopt, .waiting = true};
         case MatchOutcome::doesNotMatch:
             break;
         }
