@@ -4,6 +4,7 @@
 #include "model/Uuid.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <cmath>
@@ -36,8 +37,11 @@ QString found(const QJsonValue& value) {
     return u"null"_s;
 }
 
-QString numberText(double number) {
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+/// As JSON would write it, which for most numbers is as it was typed.
+QString numberText(const QJsonValue& value) {
+    return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact))
+        .sliced(1)
+        .chopped(1);
 }
 
 } // namespace
@@ -87,9 +91,9 @@ Expected<int> JsonReader::read<int>() const {
         return wrongType("a number"_L1);
     const double number = value_.toDouble();
     if (number != std::floor(number))
-        return wrong(u"%1 is not a whole number"_s.arg(numberText(number)));
+        return wrong(u"%1 is not a whole number"_s.arg(numberText(value_)));
     if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max())
-        return wrong(u"%1 is out of range"_s.arg(numberText(number)));
+        return wrong(u"%1 is out of range"_s.arg(numberText(value_)));
     return static_cast<int>(number);
 }
 
@@ -122,7 +126,7 @@ Expected<Timestamp> JsonReader::read<Timestamp>() const {
         return wrongType("a number"_L1);
     if (const auto moment = timestampFromJsonDate(value_.toDouble()))
         return *moment;
-    return wrong(u"%1 is too far away to be a date"_s.arg(numberText(value_.toDouble())));
+    return wrong(u"%1 is too far away to be a date"_s.arg(numberText(value_)));
 }
 
 std::unexpected<Error> JsonReader::wrong(const QString& what) const {

@@ -22,6 +22,20 @@ QString placeOf(const QByteArray& text, qsizetype offset) {
     return u"line %1, column %2"_s.arg(QString::number(line), QString::number(column));
 }
 
+/// Where these errors are noticed the character at fault has been passed already.
+bool isPastTheFault(QJsonParseError::ParseError error) {
+    switch (error) {
+    case QJsonParseError::UnterminatedObject:
+    case QJsonParseError::MissingNameSeparator:
+    case QJsonParseError::MissingObject:
+    case QJsonParseError::MissingValueSeparator:
+    case QJsonParseError::IllegalValue:
+        return true;
+    default:
+        return false;
+    }
+}
+
 QString reason(QJsonParseError error) {
     return error.error == QJsonParseError::IllegalUTF8String ? u"the text is not UTF-8"_s
                                                              : error.errorString();
@@ -38,8 +52,10 @@ Expected<QJsonValue> parseJson(const QByteArray& bytes) {
 
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError)
-        return failure(ErrorKind::invalid, placeOf(text, error.offset) + u": "_s + reason(error));
+    if (error.error != QJsonParseError::NoError) {
+        const int offset = error.offset - (isPastTheFault(error.error) ? 1 : 0);
+        return failure(ErrorKind::invalid, placeOf(text, offset) + u": "_s + reason(error));
+    }
     return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
 }
 
