@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Error.h"
+
+#include <QString>
+
+#include <istream>
+#include <ostream>
+
+namespace quillon {
+
+/// Where a command reads and writes. Borrowed streams; results go to `out`, everything said about
+/// them to `err`.
+struct Console {
+    std::istream& in;
+    std::ostream& out;
+    std::ostream& err;
+    bool colored = false;       ///< `out` shows colours
+    bool showsProgress = false; ///< `err` is a terminal
+
+    /// One sentence on `err`.
+    void say(const QString& sentence) const;
+    void say(const Error& error) const;
+};
+
+} // namespace quillon

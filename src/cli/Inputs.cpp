@@ -1,0 +1,80 @@
+#include "cli/Inputs.h"
+
+#include "model/RuleFile.h"
+#include "platform/FileNames.h"
+#include "store/Sentences.h"
+
+#include <filesystem>
+
+namespace quillon {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::size_t largestRuleFile = 64 << 20;
+
+std::string absolutePath(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return error ? path : absolute.string();
+}
+
+Expected<QByteArray> readStream(std::istream& in) {
+    QByteArray bytes;
+    std::array<char, 1 << 14> chunk{};
+    while (in.read(chunk.data(), chunk.size()) || in.gcount() > 0) {
+        bytes.append(chunk.data(), in.gcount());
+        if (std::size_t(bytes.size()) > largestRuleFile)
+            return failure(ErrorKind::invalid, u"it is larger than 64 MB"_s);
+    }
+    if (in.bad())
+        return failure(ErrorKind::io, u"reading failed"_s);
+    return bytes;
+}
+
+} // namespace
+
+Expected<std::vector<Rule>> readRules(const std::string& source, const Console& console,
+                                      Services& services) {
+    const bool isStream = source == "-";
+    const QString name =
+        isStream ? u"The rules on standard input"_s : u"The rule file %1"_s.arg(pathText(source));
+    const Expected<QByteArray> bytes =
+        isStream ? readStream(console.in)
+                 : services.storage().readWhole(absolutePath(source), largestRuleFile);
+    if (!bytes)
+        return failedTo(name + u" can't be read"_s, bytes.error());
+    auto rules = decodeRules(*bytes);
+    if (!rules)
+        return failedTo(name + u" can't be understood"_s, rules.error());
+    return rules;
+}
+
+Expected<FolderInput> readInput(const FolderOptions& options, const Console& console,
+                                Services& services) {
+    auto rules = readRules(options.rules, console, services);
+    if (!rules)
+        return std::unexpected(rules.error());
+
+    FolderInput input{
+        .request = {.path = services.platform().fileSystem.resolved(absolutePath(options.folder)),
+                    .isRecursive = options.isRecursive,
+                    .skipOnlineOnly = options.skipOnlineOnly,
+                    .settings = {}},
+        .ready = {},
+        .rules = std::move(*rules)};
+    input.request.settings.settleTime = std::chrono::duration<double>(options.settleSeconds);
+    const QString name = u"The folder %1 can't be tidied"_s.arg(pathText(options.folder));
+    if (!isValidUtf8(input.request.path))
+        return failure(ErrorKind::invalid, name + u": its path is not valid UTF-8"_s);
+    auto ready = services.engine(input.request.settings).readyFiles(folderFor(input.request));
+    if (!ready)
+        return failedTo(name, ready.error());
+    input.ready = std::move(*ready);
+    if (input.rules.empty())
+        console.say(u"There are no rules, so there is nothing to do"_s);
+    return input;
+}
+
+} // namespace quillon

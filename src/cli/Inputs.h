@@ -1,0 +1,26 @@
+#pragma once
+
+#include "cli/Console.h"
+#include "cli/Options.h"
+#include "model/Rule.h"
+#include "service/TidyRun.h"
+
+namespace quillon {
+
+/// The rules of a file, or of standard input for "-". Every error is a whole sentence.
+[[nodiscard]] Expected<std::vector<Rule>> readRules(const std::string& source,
+                                                    const Console& console, Services& services);
+
+/// The folder and the rules that a command works on.
+struct FolderInput {
+    FolderRequest request;
+    ReadyFiles ready;
+    std::vector<Rule> rules;
+};
+
+/// Reads the rules, then lists the folder. Every error is a whole sentence. Says on the console
+/// when there are no rules.
+[[nodiscard]] Expected<FolderInput> readInput(const FolderOptions& options, const Console& console,
+                                              Services& services);
+
+} // namespace quillon

@@ -1,0 +1,29 @@
+#include "cli/NearestWord.h"
+
+#include <numeric>
+
+namespace quillon {
+namespace {
+
+std::size_t distance(std::string_view a, std::string_view b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        std::size_t diagonal = std::exchange(row[0], i + 1);
+        for (std::size_t j = 0; j < b.size(); ++j) {
+            const std::size_t replaced = diagonal + (a[i] == b[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({row[j] + 1, row[j + 1] + 1, replaced});
+        }
+    }
+    return row.back();
+}
+
+} // namespace
+
+std::string nearestWord(std::string_view word, const std::vector<std::string>& words) {
+    return *std::ranges::min_element(
+        words, {}, [&](const std::string& candidate) { return distance(word, candidate); });
+}
+
+} // namespace quillon

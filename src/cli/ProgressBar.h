@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/Clock.h"
+
+#include <ostream>
+
+namespace quillon {
+
+/// One line on a terminal that is drawn over and over, and only when the work takes long enough for
+/// somebody to wonder. Gone when the object is.
+class ProgressBar {
+public:
+    ProgressBar(std::ostream& terminal, const Clock& clock, bool isShown);
+    ~ProgressBar();
+    ProgressBar(const ProgressBar&) = delete;
+    ProgressBar& operator=(const ProgressBar&) = delete;
+
+    void update(std::size_t done, std::size_t total);
+
+private:
+    std::ostream& terminal_;
+    const Clock& clock_;
+    bool isShown_;
+    bool isDrawn_ = false;
+    Timestamp nextDrawing_;
+};
+
+} // namespace quillon
