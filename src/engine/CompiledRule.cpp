@@ -6,12 +6,30 @@
 
 namespace quillon {
 
+namespace {
+
+/// Conditions have no effects, so their order shows only in the time they take.
+int cost(const Condition& condition) {
+    if (conditionType(condition.attribute).source != ConditionType::Source::listing)
+        return 2;
+    return condition.op == MatchOperator::matchesRegex ? 1 : 0;
+}
+
+} // namespace
+
 CompiledRule::CompiledRule(Rule rule) : rule_(std::move(rule)), needsDobbin_(rule_.needsDobbin()) {
+    std::vector<const Condition*> byCost;
     for (const Condition& condition : rule_.conditions) {
+        byCost.push_back(&condition);
         const ConditionType& type = conditionType(condition.attribute);
-        (type.asksAssistant ? asking_ : plain_).push_back(type.compile(condition));
         if (!captures_ && condition.op == MatchOperator::matchesRegex && type.captures != nullptr)
             captures_ = type.captures(condition);
+    }
+    std::ranges::stable_sort(byCost, {}, [](const Condition* c) { return cost(*c); });
+    for (const Condition* condition : byCost) {
+        const ConditionType& type = conditionType(condition->attribute);
+        const bool asks = type.source == ConditionType::Source::assistant;
+        (asks ? asking_ : plain_).push_back(type.compile(*condition));
     }
     renamesWithDobbin_ = std::ranges::any_of(rule_.actions, [](const RuleAction& action) {
         return action.type == ActionType::renameWithDobbin;

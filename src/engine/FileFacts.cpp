@@ -27,15 +27,18 @@ bool readAscii(std::string_view name, QString& text, QString& lower) {
     return all < 0x80;
 }
 
+struct Cut {
+    QStringView stem;
+    QStringView extension;
+};
+
+Cut cutAt(qsizetype dot, QStringView name) {
+    if (dot == name.size())
+        return {name, {}};
+    return {name.first(dot), name.sliced(dot + 1)};
+}
+
 } // namespace
-
-void FileFacts::NameText::cut(bool hasExtension) {
-    stemLength = hasExtension ? full.lastIndexOf(u'.') : full.size();
-}
-
-QStringView FileFacts::NameText::extension() const {
-    return stemLength == full.size() ? QStringView() : QStringView(full).sliced(stemLength + 1);
-}
 
 FileFacts::FileFacts(const Platform& platform, KindClassifier& kinds, const std::string& folder,
                      const ListedFile& file)
@@ -44,7 +47,7 @@ FileFacts::FileFacts(const Platform& platform, KindClassifier& kinds, const std:
 void FileFacts::reset(const ListedFile& file) {
     file_ = &file;
     path_.clear();
-    nameIsRead_ = false;
+    names_.areRead = false;
     kind_.reset();
     tags_.reset();
     whereFrom_.reset();
@@ -56,45 +59,31 @@ const std::string& FileFacts::path() const {
     return path_;
 }
 
-void FileFacts::readName() {
-    nameIsRead_ = true;
+void FileFacts::readNames() {
     const std::string_view bytes = lastComponent(file_->path);
-    if (!readAscii(bytes, name_.full, lowerName_.full)) {
-        name_.full =
-            composed(QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size())));
-        lowerName_.full = folded(name_.full);
+    const NameParts parts = splitName(bytes);
+    auto dot = static_cast<qsizetype>(parts.stem.size()); // the end when there is no extension
+    auto lowerDot = dot;
+    if (!readAscii(bytes, names_.text, names_.lower)) {
+        names_.text = composed(QString::fromUtf8(bytes));
+        names_.lower = folded(names_.text);
+        // Neither composing nor lower-casing reaches across a dot: the parts of the composed name
+        // are the composed parts of the name.
+        const bool isCut = !parts.extension.empty();
+        dot = isCut ? names_.text.lastIndexOf(u'.') : names_.text.size();
+        lowerDot = isCut ? names_.lower.lastIndexOf(u'.') : names_.lower.size();
     }
-    // Neither composing nor lower-casing reaches across a dot, so that the parts of the whole are
-    // the wholes of the parts.
-    const bool hasExtension = !splitName(bytes).extension.empty();
-    name_.cut(hasExtension);
-    lowerName_.cut(hasExtension);
-}
-
-TextSubject FileFacts::fullName() {
-    if (!nameIsRead_)
-        readName();
-    return {name_.full, lowerName_.full};
-}
-
-TextSubject FileFacts::name() {
-    if (!nameIsRead_)
-        readName();
-    return {name_.stem(), lowerName_.stem()};
-}
-
-TextSubject FileFacts::extension() {
-    if (!nameIsRead_)
-        readName();
-    return {name_.extension(), lowerName_.extension()};
+    const Cut text = cutAt(dot, names_.text);
+    const Cut lower = cutAt(lowerDot, names_.lower);
+    names_.full = {names_.text, names_.lower};
+    names_.stem = {text.stem, lower.stem};
+    names_.extension = {text.extension, lower.extension};
+    names_.areRead = true;
 }
 
 FileKind FileFacts::kind() {
-    if (!kind_) {
-        if (!nameIsRead_)
-            readName();
-        kind_ = kinds_.kindOf(name_.full, file_->status.type);
-    }
+    if (!kind_)
+        kind_ = kinds_.kindOf(names().text, file_->status.type);
     return *kind_;
 }
 
@@ -103,7 +92,7 @@ const Expected<QStringList>& FileFacts::tags() {
         tags_ = platform_.tags.tags(path());
         if (*tags_)
             for (QString& tag : **tags_)
-                tag = folded(tag);
+                tag = folded(composed(tag));
     }
     return *tags_;
 }
@@ -112,8 +101,10 @@ const std::vector<TextSubject>& FileFacts::whereFrom() {
     if (whereFrom_)
         return *whereFrom_;
     whereFromTexts_.clear();
-    for (const QString& entry : platform_.provenance.whereFrom(path()))
-        whereFromTexts_ << composed(entry) << folded(entry);
+    for (const QString& entry : platform_.provenance.whereFrom(path())) {
+        const QString text = composed(entry);
+        whereFromTexts_ << text << folded(text);
+    }
     std::vector<TextSubject>& subjects = whereFrom_.emplace();
     for (qsizetype i = 0; i < whereFromTexts_.size(); i += 2)
         subjects.push_back({whereFromTexts_.at(i), whereFromTexts_.at(i + 1)});

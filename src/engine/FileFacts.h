@@ -26,6 +26,8 @@ public:
     /// `file.path` is relative to `folder`; all four must outlive the facts.
     FileFacts(const Platform& platform, KindClassifier& kinds, const std::string& folder,
               const ListedFile& file);
+    FileFacts(const FileFacts&) = delete;
+    FileFacts& operator=(const FileFacts&) = delete;
 
     /// Turns to another file of the same folder, which must outlive the facts. Cheaper than new
     /// ones.
@@ -34,9 +36,9 @@ public:
     [[nodiscard]] const std::string& path() const; ///< absolute
     [[nodiscard]] const FileStatus& status() const { return file_->status; }
 
-    [[nodiscard]] TextSubject fullName();
-    [[nodiscard]] TextSubject name(); ///< without the extension
-    [[nodiscard]] TextSubject extension();
+    [[nodiscard]] const TextSubject& fullName() { return names().full; }
+    [[nodiscard]] const TextSubject& name() { return names().stem; } ///< without the extension
+    [[nodiscard]] const TextSubject& extension() { return names().extension; }
     [[nodiscard]] FileKind kind();
     [[nodiscard]] const Expected<QStringList>& tags(); ///< lower-cased
     [[nodiscard]] const std::vector<TextSubject>& whereFrom();
@@ -44,25 +46,26 @@ public:
     [[nodiscard]] std::optional<Timestamp> date(ConditionAttribute attribute) const;
 
 private:
-    /// The full name in one spelling, and where it is cut.
-    struct NameText {
-        QString full;
-        qsizetype stemLength = 0;
-
-        void cut(bool hasExtension);
-        [[nodiscard]] QStringView stem() const { return QStringView(full).first(stemLength); }
-        [[nodiscard]] QStringView extension() const;
+    /// The last component of the path and its parts, pointing into the two texts.
+    struct Names {
+        QString text;
+        QString lower;
+        TextSubject full, stem, extension;
+        bool areRead = false;
     };
-    void readName();
+    [[nodiscard]] Names& names() {
+        if (!names_.areRead)
+            readNames();
+        return names_;
+    }
+    void readNames();
 
     const Platform& platform_;
     KindClassifier& kinds_;
     const std::string& folder_;
     const ListedFile* file_;
     mutable std::string path_; ///< empty until asked for
-    NameText name_;
-    NameText lowerName_;
-    bool nameIsRead_ = false;
+    Names names_;
     std::optional<FileKind> kind_;
     std::optional<Expected<QStringList>> tags_;
     QStringList whereFromTexts_; ///< what whereFrom_ points into

@@ -15,7 +15,7 @@ struct TextSubject {
 /// Canonical composition, so that a letter and its accent equal the accented letter.
 [[nodiscard]] QString composed(const QString& text);
 
-/// What letter case is ignored by: lower-cased and composed.
-[[nodiscard]] QString folded(const QString& text);
+/// A composed text without its letter case, composed again.
+[[nodiscard]] QString folded(const QString& composedText);
 
 } // namespace quillon

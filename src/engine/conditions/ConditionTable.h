@@ -12,7 +12,8 @@ struct ConditionType {
     CompiledCondition (*compile)(const Condition& condition);
     /// For a condition that is a pattern; null where the attribute has no text.
     CompiledCaptures (*captures)(const Condition& condition) = nullptr;
-    bool asksAssistant = false;
+    enum class Source { listing, extendedAttributes, assistant };
+    Source source = Source::listing;
 };
 
 extern const ConditionType nameCondition;

@@ -15,7 +15,8 @@ CompiledCondition compile(const Condition& condition) {
 
 } // namespace
 
-constinit const ConditionType dobbinCondition{
-    .attribute = ConditionAttribute::dobbinSays, .compile = compile, .asksAssistant = true};
+constinit const ConditionType dobbinCondition{.attribute = ConditionAttribute::dobbinSays,
+                                              .compile = compile,
+                                              .source = ConditionType::Source::assistant};
 
 } // namespace quillon

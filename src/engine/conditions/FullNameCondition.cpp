@@ -4,7 +4,7 @@
 namespace quillon {
 namespace {
 
-TextSubject subject(FileFacts& file) {
+const TextSubject& subject(FileFacts& file) {
     return file.fullName();
 }
 

@@ -17,6 +17,8 @@ CompiledCondition compile(const Condition& condition) {
 
 } // namespace
 
-constinit const ConditionType tagCondition{ConditionAttribute::tag, compile};
+constinit const ConditionType tagCondition{.attribute = ConditionAttribute::tag,
+                                           .compile = compile,
+                                           .source = ConditionType::Source::extendedAttributes};
 
 } // namespace quillon

@@ -6,7 +6,7 @@
 namespace quillon {
 
 /// Reads the text that a condition is about.
-using ReadSubject = TextSubject (*)(FileFacts& file);
+using ReadSubject = const TextSubject& (*)(FileFacts& file);
 
 [[nodiscard]] CompiledCondition compileText(const Condition& condition, ReadSubject read);
 [[nodiscard]] CompiledCaptures textCaptures(const Condition& condition, ReadSubject read);

@@ -28,6 +28,10 @@ CompiledCaptures captures(const Condition& condition) {
 
 } // namespace
 
-constinit const ConditionType whereFromCondition{ConditionAttribute::whereFrom, compile, captures};
+constinit const ConditionType whereFromCondition{.attribute = ConditionAttribute::whereFrom,
+                                                 .compile = compile,
+                                                 .captures = captures,
+                                                 .source =
+                                                     ConditionType::Source::extendedAttributes};
 
 } // namespace quillon
