@@ -10,6 +10,7 @@
 #include "platform/linux/MimeContentTypes.h"
 #include "platform/linux/NextcloudFiles.h"
 #include "platform/linux/SystemClock.h"
+#include "platform/linux/TrashPlaces.h"
 #include "platform/linux/XattrProvenance.h"
 #include "platform/linux/XattrTags.h"
 
@@ -80,6 +81,8 @@ StoreSession::Services Services::storeServices() {
             .fileSystem = machine_->fileSystem,
             .clock = machine_->clock,
             .pause = [](std::chrono::milliseconds time) { std::this_thread::sleep_for(time); },
+            .trashPlaces = [home = homeTrash(machine_->folders)](
+                               const std::string& folder) { return trashPlaces(folder, home); },
             .temporaryTag = machine_->tag};
 }
 

@@ -38,15 +38,19 @@ bool isTheFile(const FileStatus& found, const FileStatus& intended) {
 
 class Recovery {
 public:
-    Recovery(const FileSystem& fileSystem) : fileSystem_(fileSystem) {}
+    Recovery(const FileSystem& fileSystem, const TrashPlaces& trashPlaces)
+        : fileSystem_(fileSystem), trashPlaces_(trashPlaces) {}
 
     std::optional<LogEntry> entryOf(const JournalledFile& file) {
         const std::string place = lastKnownPlace(file.intent.entry);
         const Expected<FileStatus> standing = fileSystem_.status(place);
         if (standing && isTheFile(*standing, file.intent.status))
             return soFar(file);
-        if (const auto found = search(file.intent))
+        if (const auto found = search(file.intent.targetFolders, file.intent))
             return movedTo(file, *found);
+        const std::string folder(parentPath(file.intent.entry.originalPath->toStdString()));
+        if (const auto found = search(trashPlaces_(folder), file.intent))
+            return trashedAt(file, *found);
         return standing ? soFar(file) : std::optional(lost(file));
     }
 
@@ -63,11 +67,12 @@ private:
         return file.hasOutcome ? std::optional(file.intent.entry) : std::nullopt;
     }
 
-    std::optional<std::string> search(const Intent& intent) {
+    std::optional<std::string> search(const std::vector<std::string>& folders,
+                                      const Intent& intent) {
         const QString original = *intent.entry.originalPath;
         const std::string path = original.toStdString();
         const std::string_view stem = splitName(lastComponent(path)).stem;
-        for (const std::string& folder : intent.targetFolders)
+        for (const std::string& folder : folders)
             for (const ListedFile* candidate : candidates(folder, intent.status)) {
                 const bool renamed = !candidate->path.starts_with(stem);
                 if (isTheFile(candidate->status, intent.status) &&
@@ -112,6 +117,15 @@ private:
         return entry;
     }
 
+    static LogEntry trashedAt(const JournalledFile& file, const std::string& path) {
+        LogEntry entry = file.intent.entry;
+        addPhrase(entry, u"moved to Trash, then interrupted"_s);
+        entry.currentPath.reset();
+        entry.trashedPath = text(path);
+        entry.undoable = true;
+        return entry;
+    }
+
     static LogEntry lost(const JournalledFile& file) {
         LogEntry entry = file.intent.entry;
         const QString said = u"interrupted: the file was not found again"_s;
@@ -126,6 +140,7 @@ private:
         std::unordered_map<std::int64_t, std::vector<const ListedFile*>> byDate;
     };
     const FileSystem& fileSystem_;
+    const TrashPlaces& trashPlaces_;
     std::map<std::string, Contents> folders_;
 };
 
@@ -133,7 +148,8 @@ private:
 
 std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
                                        const std::vector<LogEntry>& logs,
-                                       const FileSystem& fileSystem) {
+                                       const FileSystem& fileSystem,
+                                       const TrashPlaces& trashPlaces) {
     // All of a run enters the log at once. When some of it is there, the state file was saved and
     // only the journal's end was missing; the entries that are not there are past the log's cap or
     // have been undone.
@@ -146,7 +162,7 @@ std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
     if (std::ranges::any_of(journal.files, isKnown))
         return {};
 
-    Recovery recovery(fileSystem);
+    Recovery recovery(fileSystem, trashPlaces);
     std::vector<LogEntry> entries;
     for (const JournalledFile& file : journal.files)
         if (auto entry = recovery.entryOf(file))

@@ -3,11 +3,15 @@
 #include "platform/FileSystem.h"
 #include "store/JournalFormat.h"
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
 
 namespace quillon {
+
+/// The folders in which the trash may have put a file from a folder.
+using TrashPlaces = std::function<std::vector<std::string>(const std::string& folder)>;
 
 /// What an interrupted run did to the files that it wrote down, found by looking for each one:
 /// first where the journal last knew it, then in the folders where its rule would put it. Changes
@@ -18,7 +22,8 @@ namespace quillon {
 /// already are not given again.
 [[nodiscard]] std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
                                                      const std::vector<LogEntry>& logs,
-                                                     const FileSystem& fileSystem);
+                                                     const FileSystem& fileSystem,
+                                                     const TrashPlaces& trashPlaces);
 
 /// The folders in which the run may have left hidden temporaries.
 [[nodiscard]] std::set<std::string> touchedFolders(const JournalContents& journal);

@@ -1,6 +1,5 @@
 #include "store/StoreSession.h"
 
-#include "store/JournalRecovery.h"
 #include "store/Sentences.h"
 
 namespace quillon {
@@ -57,7 +56,8 @@ Expected<void> StoreSession::recover(const std::string& journalPath) {
         return {};
 
     const JournalContents journal = readJournal(*bytes);
-    std::vector<LogEntry> entries = recoveredEntries(journal, state_.logs, services_.fileSystem);
+    std::vector<LogEntry> entries =
+        recoveredEntries(journal, state_.logs, services_.fileSystem, services_.trashPlaces);
     if (!entries.empty())
         warnings_.append(
             u"An earlier run was interrupted; what it did to %1 is now in the activity log"_s.arg(

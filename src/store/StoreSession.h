@@ -2,6 +2,7 @@
 
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
+#include "store/JournalRecovery.h"
 #include "store/StateFile.h"
 #include "store/StoreLock.h"
 #include "store/StorePlaces.h"
@@ -21,6 +22,7 @@ public:
         FileSystem& fileSystem;
         const Clock& clock;
         std::function<void(std::chrono::milliseconds)> pause;
+        TrashPlaces trashPlaces;
         std::string temporaryTag;
     };
 
