@@ -2,6 +2,7 @@
 
 #include "platform/FileNames.h"
 #include "platform/linux/Descriptor.h"
+#include "platform/linux/SystemError.h"
 #include "platform/linux/SystemStatus.h"
 
 #include <fcntl.h>
@@ -29,20 +30,21 @@ bool isWithin(const std::string& path, const FileStatus& folder) {
 
 Expected<std::string> mountPointOf(const std::string& path) {
     std::string top = path;
-    const Expected<FileStatus> start = statusAt(AT_FDCWD, path);
-    if (!start) {
-        return std::unexpected(start.error());
+    struct statx here = {};
+    if (const int error = lookAt(AT_FDCWD, top.c_str(), here); error != 0) {
+        return systemFailure(error);
     }
-    while (top != "/") {
+    while (top != "/" && (here.stx_attributes & STATX_ATTR_MOUNT_ROOT) == 0) {
         std::string above(parentPath(top));
-        const Expected<FileStatus> status = statusAt(AT_FDCWD, above);
-        if (!status) {
-            return std::unexpected(status.error());
+        struct statx next = {};
+        if (const int error = lookAt(AT_FDCWD, above.c_str(), next); error != 0) {
+            return systemFailure(error);
         }
-        if (status->device != start->device) {
+        if (toFileStatus(next).device != toFileStatus(here).device) {
             break;
         }
         top = std::move(above);
+        here = next;
     }
     return top;
 }

@@ -174,19 +174,19 @@ Expected<bool> haveSameBytes(int one, int other, std::uint64_t size) {
     return true;
 }
 
-Expected<void> writeAll(int file, const char* bytes, std::size_t size) {
+int writeAll(int file, const char* bytes, std::size_t size) {
     while (size > 0) {
         const ssize_t put = ::write(file, bytes, size);
         if (put < 0 && errno == EINTR) {
             continue;
         }
         if (put <= 0) {
-            return systemFailure(put == 0 ? ENOSPC : errno);
+            return put == 0 ? ENOSPC : errno;
         }
         bytes += put;
         size -= static_cast<std::size_t>(put);
     }
-    return {};
+    return 0;
 }
 
 } // namespace quillon

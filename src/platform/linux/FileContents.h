@@ -14,7 +14,7 @@ namespace quillon {
 /// Whether the first `size` bytes of two open files are the same.
 [[nodiscard]] Expected<bool> haveSameBytes(int one, int other, std::uint64_t size);
 
-/// Writes all of it, at the file's own position.
-[[nodiscard]] Expected<void> writeAll(int file, const char* bytes, std::size_t size);
+/// Writes all of it, at the file's own position. Returns 0 or an errno value.
+[[nodiscard]] int writeAll(int file, const char* bytes, std::size_t size);
 
 } // namespace quillon

@@ -56,6 +56,9 @@ std::unexpected<Error> renameFailure(int code) {
                        QStringLiteral("this file system can’t move a file without the risk of "
                                       "replacing another"));
     }
+    if (code == EXDEV) {
+        return failure(ErrorKind::unsupported, QStringLiteral("it is on another disk"));
+    }
     return systemFailure(code);
 }
 

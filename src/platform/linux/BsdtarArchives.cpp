@@ -1,0 +1,198 @@
+#include "platform/linux/BsdtarArchives.h"
+
+#include "platform/FileNames.h"
+#include "platform/linux/Descriptor.h"
+#include "platform/linux/FreeName.h"
+#include "platform/linux/Removal.h"
+#include "platform/linux/SystemError.h"
+#include "platform/linux/UnpackedTree.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillon {
+
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+
+/// A private folder and in it the one that an archive is unpacked into, with a new folder's usual
+/// permissions. The private one goes, with all that is still in it, at the end.
+class Staging {
+public:
+    Staging(const Descriptor& folder, std::string path, std::string name)
+        : folder_(folder), path_(std::move(path)), name_(std::move(name)) {}
+    ~Staging() {
+        if (isMade_) {
+            // Should this fail, a hidden leftover stays, which bears this process's tag.
+            (void)removeTemporary(folder_.get(), name_);
+        }
+    }
+    Staging(const Staging&) = delete;
+    Staging& operator=(const Staging&) = delete;
+
+    [[nodiscard]] Expected<void> make() {
+        isMade_ = ::mkdirat(folder_.get(), name_.c_str(), S_IRWXU) == 0;
+        const bool isWhole = isMade_ && ::mkdirat(folder_.get(), contents().c_str(),
+                                                  S_IRWXU | S_IRWXG | S_IRWXO) == 0;
+        return isWhole ? Expected<void>{} : systemFailure(errno);
+    }
+
+    [[nodiscard]] Expected<FreeName> publish(const std::string& wantedName) {
+        return claimFreeName(wantedName, [this](const std::string& name) {
+            return renameWithoutReplacing(folder_.get(), contents(), folder_.get(), name);
+        });
+    }
+
+    /// Relative to the folder it was made in.
+    [[nodiscard]] std::string contents() const { return joinPath(name_, "contents"); }
+    [[nodiscard]] std::string contentsPath() const { return joinPath(path_, contents()); }
+
+private:
+    const Descriptor& folder_;
+    std::string path_;
+    std::string name_;
+    bool isMade_ = false;
+};
+
+/// Says whether the unpacking is still within its limits. Measuring a big tree takes a while, so
+/// that it is done for a tenth of the time at most.
+class LimitWatch {
+public:
+    LimitWatch(int folder, std::string root, const UnpackLimits& limits)
+        : folder_(folder), root_(std::move(root)), limits_(limits) {}
+
+    [[nodiscard]] bool mayContinue() {
+        const SteadyClock::time_point start = SteadyClock::now();
+        if (start < next_) {
+            return isWithin_;
+        }
+        isWithin_ = measureTree(folder_, root_, limits_).isWithin(limits_);
+        const SteadyClock::time_point end = SteadyClock::now();
+        next_ = end + 9 * (end - start);
+        return isWithin_;
+    }
+
+private:
+    int folder_;
+    std::string root_;
+    const UnpackLimits& limits_;
+    SteadyClock::time_point next_;
+    bool isWithin_ = true;
+};
+
+ProcessRequest bsdtarRequest(const std::string& archive, const std::string& staging) {
+    ProcessRequest request;
+    request.executable = "/usr/bin/bsdtar";
+    // Without -P it refuses "..", absolute names and writing through links. What an archive says of
+    // owners, access lists and flags is its maker's affair. Nobody is there to type a passphrase:
+    // with a wrong one it fails instead of asking.
+    request.arguments = {"-x",
+                         "--no-same-owner",
+                         "--no-same-permissions",
+                         "--no-acls",
+                         "--no-xattrs",
+                         "--no-fflags",
+                         "--no-mac-metadata",
+                         "--passphrase",
+                         "no passphrase",
+                         "-f",
+                         archive,
+                         "-C",
+                         staging};
+    request.environment = {{"LC_ALL", "C.UTF-8"}};
+    request.workingFolder = staging;
+    return request;
+}
+
+/// The tool's first lines without its name and without the folder that nobody has seen.
+QString messageFor(const QString& output, const std::string& staging) {
+    if (output.contains(QLatin1String("passphrase"), Qt::CaseInsensitive)) {
+        return QStringLiteral("the archive is protected by a password");
+    }
+    constexpr qsizetype mostLines = 3;
+    QStringList lines;
+    for (QString line : output.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        line.remove(QString::fromStdString(staging) + QLatin1Char('/'));
+        line.remove(QString::fromStdString(staging));
+        if (line.startsWith(QLatin1String("bsdtar: "))) {
+            line.remove(0, 8);
+        }
+        const bool isSummary = line.startsWith(QLatin1String("Error exit delayed"));
+        if (!isSummary && lines.size() < mostLines) {
+            lines.append(line.trimmed());
+        }
+    }
+    return lines.join(QLatin1String("; "));
+}
+
+bool isEmpty(int folder, const std::string& name) {
+    return measureTree(folder, name, {.entries = 1, .bytes = 1}).entries == 0;
+}
+
+Expected<void> extract(Processes& processes, const std::string& archive, int folder,
+                       const Staging& staging, const UnpackLimits& limits) {
+    LimitWatch watch(folder, staging.contents(), limits);
+    ProcessRequest request = bsdtarRequest(archive, staging.contentsPath());
+    request.mayContinue = [&watch] { return watch.mayContinue(); };
+    const Expected<ProcessResult> result = processes.run(request);
+    if (!result) {
+        return std::unexpected(result.error());
+    }
+    if (result->end == ProcessResult::End::stopped) {
+        return exceedsLimits();
+    }
+    if (!result->succeeded()) {
+        return failure(ErrorKind::invalid, messageFor(result->errorOutput, staging.contentsPath()));
+    }
+    return {};
+}
+
+/// Everything that must hold before the folder may be seen.
+Expected<void> inspect(int folder, const Staging& staging, const UnpackLimits& limits) {
+    if (Expected<void> safe = makeSafe(folder, staging.contents()); !safe) {
+        return safe;
+    }
+    if (isEmpty(folder, staging.contents())) {
+        return failure(ErrorKind::invalid, {});
+    }
+    if (!measureTree(folder, staging.contents(), limits).isWithin(limits)) {
+        return exceedsLimits();
+    }
+    // The archive may go to the trash once this is published, so it has to be on the disk.
+    return ::syncfs(folder) == 0 ? Expected<void>{} : systemFailure(errno);
+}
+
+} // namespace
+
+BsdtarArchives::BsdtarArchives(Processes& processes, std::string temporaryTag)
+    : processes_(processes), temporaries_(std::move(temporaryTag)) {}
+
+Expected<std::string> BsdtarArchives::unpack(const std::string& archive,
+                                             const std::string& wantedFolder,
+                                             const UnpackLimits& limits) {
+    const std::string parent(parentPath(wantedFolder));
+    const Descriptor folder(::open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isOpen()) {
+        return systemFailure(errno);
+    }
+    Staging staging(folder, parent, temporaries_.nextFree(folder.get(), "unpack"));
+    Expected<void> done = staging.make();
+    if (done) {
+        done = extract(processes_, archive, folder.get(), staging, limits);
+    }
+    if (done) {
+        done = inspect(folder.get(), staging, limits);
+    }
+    if (!done) {
+        return std::unexpected(done.error());
+    }
+    const Expected<FreeName> published = staging.publish(std::string(lastComponent(wantedFolder)));
+    if (!published) {
+        return std::unexpected(published.error());
+    }
+    return joinPath(parent, published->name);
+}
+
+} // namespace quillon
