@@ -146,9 +146,9 @@ TreeSize measureTree(int folder, const std::string& root, const UnpackLimits& li
 }
 
 Expected<void> makeSafe(int folder, const std::string& root) {
-    struct stat found = {};
-    if (::fstatat(folder, root.c_str(), &found, AT_SYMLINK_NOFOLLOW) != 0 ||
-        ::fchmodat(folder, root.c_str(), (found.st_mode & 0777) | S_IRWXU, 0) != 0) {
+    struct stat top = {};
+    if (::fstatat(folder, root.c_str(), &top, AT_SYMLINK_NOFOLLOW) != 0 ||
+        ::fchmodat(folder, root.c_str(), (top.st_mode & 0777) | S_IRWXU, 0) != 0) {
         return systemFailure(errno);
     }
     Inspection inspection;
