@@ -43,15 +43,17 @@ TEST(SubfolderName, FollowsTheStrategy) {
         {SortStrategy::byExtension, "a." + std::string(253, 'x'), regular, std::string(253, 'X')},
     };
     for (const Case& c : cases) {
-        const ActionContext context{
-            .platform = machine.platform,
-            .judge = judge,
-            .kinds = kinds,
-            .dates = dates,
-            .settings = settings,
-            .path = "/work/" + c.name,
-            .status = {.modified = sys_days{2024y / 5 / 31} + 20h, .type = c.type},
-        };
+        FileStatus status;
+        status.modified = sys_days{2024y / 5 / 31} + 20h;
+        status.type = c.type;
+        const ActionContext context{.platform = machine.platform,
+                                    .judge = judge,
+                                    .kinds = kinds,
+                                    .dates = dates,
+                                    .settings = settings,
+                                    .path = "/work/" + c.name,
+                                    .status = status,
+                                    .captures = {}};
         EXPECT_EQ(subfolderName(c.strategy, context), c.expected) << c.name;
     }
 }

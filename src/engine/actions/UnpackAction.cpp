@@ -27,11 +27,10 @@ bool looksUnpacked(const std::string& folder, Timestamp since, const ActionConte
         status->created.value_or(status->changed) < since)
         return false;
 
-    constexpr std::chrono::seconds rounding{2}; // of dates in a zip
     const Expected<Listing> listing =
         fileSystem.list(folder, {.recursive = true, .isPackage = nullptr});
     return listing && std::ranges::any_of(listing->files, [&](const ListedFile& file) {
-               return file.status.modified <= context.status.modified + rounding;
+               return file.status.modified < context.status.modified;
            });
 }
 
