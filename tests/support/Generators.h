@@ -5,6 +5,7 @@
 #include "model/WatchedFolder.h"
 
 #include <QJsonDocument>
+#include <gtest/gtest.h>
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
