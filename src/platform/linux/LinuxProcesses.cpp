@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <poll.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -31,7 +31,7 @@ public:
         , errorOutput_(std::move(child.errorOutput))
         ,
         // Without it the ticks alone notice the end.
-        exitSignal_(::pidfd_open(pid_, 0))
+        exitSignal_(static_cast<int>(::syscall(SYS_pidfd_open, pid_, 0)))
         , started_(std::chrono::steady_clock::now()) {}
 
     [[nodiscard]] Expected<ProcessResult> run() {
