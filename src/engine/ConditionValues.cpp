@@ -12,27 +12,15 @@ namespace quillon {
 namespace {
 
 /// Unsigned, without a base prefix.
-template <typename Number>
-std::from_chars_result readAll(std::string_view digits, std::chars_format format, Number& value) {
-    const char* end = digits.data() + digits.size();
-    std::from_chars_result result = std::from_chars(digits.data(), end, value, format);
-    if (result.ec == std::errc{} && result.ptr != end)
-        result.ec = std::errc::invalid_argument;
-    return result;
-}
-
 std::optional<double> unsignedNumber(std::string_view digits, std::chars_format format) {
     if (digits.empty() || digits.front() == '-')
         return std::nullopt;
     double value = 0;
-    auto result = readAll(digits, format, value);
-    if (result.ec == std::errc::result_out_of_range) {
-        // Too small is nothing, too large is no number: the wider type tells which.
-        long double wide = 0;
-        result = readAll(digits, format, wide);
-        value = static_cast<double>(wide);
-    }
-    return result.ec == std::errc{} && std::isfinite(value) ? std::optional(value) : std::nullopt;
+    const char* const end = digits.data() + digits.size();
+    const auto [stop, error] = std::from_chars(digits.data(), end, value, format);
+    if (error != std::errc{} || stop != end || !std::isfinite(value))
+        return std::nullopt;
+    return value;
 }
 
 /// `longest` digits at most, and at least `shortest`.
