@@ -7,7 +7,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-namespace quillon::test {
+namespace quillon::testing {
 namespace {
 
 [[noreturn]] void fail(const std::string& what, const std::string& path) {
@@ -144,4 +144,4 @@ void removeTree(const std::string& path) {
     std::filesystem::remove_all(path, ignored);
 }
 
-} // namespace quillon::test
+} // namespace quillon::testing

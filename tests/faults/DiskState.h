@@ -6,14 +6,14 @@
 #include <sys/stat.h>
 #include <vector>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 /// Everything about a file that a person would miss.
 struct DiskItem {
     mode_t mode = 0;           ///< type and permissions
-    std::string content;       ///< bytes, or a link's target
+    std::string content = {};  ///< bytes, or a link's target
     std::int64_t modified = 0; ///< nanoseconds
-    std::map<std::string, std::string> attributes;
+    std::map<std::string, std::string> attributes = {};
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
 
@@ -46,4 +46,4 @@ enum class Likeness {
 void writeItem(const std::string& path, const DiskItem& item);
 void removeTree(const std::string& path);
 
-} // namespace quillon::test
+} // namespace quillon::testing

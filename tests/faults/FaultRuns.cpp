@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <cstring>
 
-namespace quillon::test {
+namespace quillon::testing {
 namespace {
 
 /// More calls than any operation here makes; one that waits in a loop must not keep us for ever.
@@ -39,7 +39,26 @@ public:
         ++findings_.points;
         for (const std::string& breach : breaches(world, world.read(), report, excuses))
             say(fault, breach);
+        if (end.killed && scenario_.operation.recover)
+            recover(world, fault + ", then started again");
         report_ = report.value_or(Report{});
+    }
+
+    void recover(World& world, const std::string& fault) {
+        const TracedEnd end =
+            runTraced([&] { return encodeReport(scenario_.operation.recover(world.places)); },
+                      [&](const SyscallStop& stop) { return ordinarily(scenario_.machine, stop); });
+        if (!end.answer)
+            return say(fault, "crashed");
+        const DiskState after = world.read();
+        for (const auto& [path, item] : after)
+            if (isHidden(path))
+                say(fault, "left behind: " + path);
+        for (const std::string& breach : breaches(world, after, std::nullopt))
+            say(fault, breach);
+        if (scenario_.operation.isJournalled)
+            for (const std::string& sentence : forgotten(world, after, decodeReport(*end.answer)))
+                say(fault, sentence);
     }
 
     void say(const std::string& fault, const std::string& breach) {
@@ -189,4 +208,4 @@ std::vector<SyscallStop> callsOf(const Scenario& scenario) {
     return calls;
 }
 
-} // namespace quillon::test
+} // namespace quillon::testing

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 /// What a series of runs of one scenario found.
 struct Findings {
@@ -34,4 +34,4 @@ struct Findings {
 /// The system calls of an undisturbed run.
 [[nodiscard]] std::vector<SyscallStop> callsOf(const Scenario& scenario);
 
-} // namespace quillon::test
+} // namespace quillon::testing

@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace quillon::test {
+namespace quillon::testing {
 namespace {
 
 /// What a program does that gives no thought to any of this: look, then write or rename. The
@@ -70,7 +70,7 @@ void PrintTo(const NaiveCase& c, std::ostream* out) {
     *out << c.name;
 }
 
-class Naive : public testing::TestWithParam<NaiveCase> {};
+class Naive : public ::testing::TestWithParam<NaiveCase> {};
 
 TEST_P(Naive, isCaught) {
     if (const auto reason = tracingRefused())
@@ -83,31 +83,32 @@ TEST_P(Naive, isCaught) {
         findings.breaches,
         [&](const std::string& found) { return found.find(breach) != std::string::npos; }))
         << "among " << findings.points << " runs nothing like: " << fault << ", " << breach << "\n"
-        << testing::PrintToString(findings.breaches);
+        << ::testing::PrintToString(findings.breaches);
 }
 
 const auto elsewhere = Devices::outElsewhere;
 INSTANTIATE_TEST_SUITE_P(
     Harness, Naive,
-    testing::Values(NaiveCase{"killedCopy", naive(Law::copies, naiveCopyOnce), killAtEachCall,
-                              "killed", "half-written"},
-                    NaiveCase{"failedCopy", naive(Law::copies, naiveCopyOnce), failEachCall,
-                              "ENOSPC at", "half-written"},
-                    NaiveCase{"overwritingCopy", naive(Law::copies, naiveCopyOnce),
-                              interfereAtEachCall, "a file of the wanted name", "somebody else's"},
-                    NaiveCase{"overwritingMove", naive(Law::moves, naiveMove), interfereAtEachCall,
-                              "a file of the wanted name", "somebody else's"},
-                    NaiveCase{"overwrittenLink", naive(Law::moves, naiveMove), interfereAtEachCall,
-                              "a dangling link of the wanted name", "somebody else's"},
-                    NaiveCase{"falseSuccess", naive(Law::moves, naiveMove, elsewhere), failEachCall,
-                              "EIO at", "is said to be"},
-                    NaiveCase{"fullDevice", naive(Law::moves, naiveMove, elsewhere),
-                              failFromEachCallOn, "ENOSPC from", "is whole nowhere"},
-                    NaiveCase{"lostAttributes", naive(Law::moves, naiveMove, elsewhere),
-                              runUndisturbed, "undisturbed", "is whole nowhere"},
-                    NaiveCase{"lostUpdate", naive(Law::moves, naiveMove, elsewhere),
-                              interfereAtEachCall, "writes to the source", "is whole nowhere"}),
+    ::testing::Values(
+        NaiveCase{"killedCopy", naive(Law::copies, naiveCopyOnce), killAtEachCall, "killed",
+                  "half-written"},
+        NaiveCase{"failedCopy", naive(Law::copies, naiveCopyOnce), failEachCall, "ENOSPC at",
+                  "half-written"},
+        NaiveCase{"overwritingCopy", naive(Law::copies, naiveCopyOnce), interfereAtEachCall,
+                  "a file of the wanted name", "somebody else's"},
+        NaiveCase{"overwritingMove", naive(Law::moves, naiveMove), interfereAtEachCall,
+                  "a file of the wanted name", "somebody else's"},
+        NaiveCase{"overwrittenLink", naive(Law::moves, naiveMove), interfereAtEachCall,
+                  "a dangling link of the wanted name", "somebody else's"},
+        NaiveCase{"falseSuccess", naive(Law::moves, naiveMove, elsewhere), failEachCall, "EIO at",
+                  "is said to be"},
+        NaiveCase{"fullDevice", naive(Law::moves, naiveMove, elsewhere), failFromEachCallOn,
+                  "ENOSPC from", "is whole nowhere"},
+        NaiveCase{"lostAttributes", naive(Law::moves, naiveMove, elsewhere), runUndisturbed,
+                  "undisturbed", "is whole nowhere"},
+        NaiveCase{"lostUpdate", naive(Law::moves, naiveMove, elsewhere), interfereAtEachCall,
+                  "writes to the source", "is whole nowhere"}),
     [](const auto& test) { return test.param.name; });
 
 } // namespace
-} // namespace quillon::test
+} // namespace quillon::testing

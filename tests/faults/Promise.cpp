@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-namespace quillon::test {
+namespace quillon::testing {
 namespace {
 
 bool isHidden(const std::string& path) {
@@ -12,6 +12,14 @@ bool isHidden(const std::string& path) {
 
 bool isWithin(const std::string& path, const std::string& folder) {
     return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
+}
+
+/// Where a trash keeps the record of a file in its folder "files".
+std::string recordOf(const std::string& trashed) {
+    const std::size_t at = trashed.rfind("/files/");
+    if (at == std::string::npos || trashed.find('/', at + 7) != std::string::npos)
+        return {};
+    return trashed.substr(0, at) + "/info/" + trashed.substr(at + 7) + ".trashinfo";
 }
 
 std::string decoded(const std::string& text) {
@@ -48,7 +56,8 @@ private:
 
     bool belongsToThing(const std::string& path) const {
         return std::ranges::any_of(world_.things, [&path](const Thing& thing) {
-            return thing.law != Law::appears && isWithin(path, thing.path);
+            return thing.law != Law::appears &&
+                   (isWithin(path, thing.path) || path == recordOf(thing.path));
         });
     }
 
@@ -122,12 +131,23 @@ private:
         if (places.size() > (mayDouble && isAtSource ? 2U : 1U))
             say(thing.path + " is there " + std::to_string(places.size()) + " times, at last as " +
                 places.back());
+        if (mayDouble && !isAtSource && !places.empty())
+            excuseRemains(thing);
         if (!report_)
             return;
         const std::string place = claim != nullptr ? claim->place : thing.path;
         if (std::ranges::find(places, place) == places.end())
             say(thing.path + " is said to be " + (place == thing.path ? "still there" : place) +
                 ", and is not" + (claim != nullptr ? " (" + claim->message + ")" : ""));
+    }
+
+    /// A folder that lies whole elsewhere is taken away file by file.
+    void excuseRemains(const Thing& thing) {
+        for (const auto& [name, item] : treeAt(after_, thing.path)) {
+            const auto whole = thing.versions.back().find(name);
+            if (whole != thing.versions.back().end() && whole->second.isSameFileAs(item))
+                explained_.insert(thing.path + name);
+        }
     }
 
     void judgeCopied(const Thing& thing, const Claim* claim,
@@ -186,9 +206,8 @@ private:
     /// no record without a file.
     void trashIsInOrder() {
         for (const auto& [path, item] : after_) {
-            if (const auto at = path.rfind("/files/");
-                at != std::string::npos && path.find('/', at + 7) == std::string::npos)
-                judgeTrashed(path, path.substr(0, at) + "/info/" + path.substr(at + 7));
+            if (const std::string record = recordOf(path); !record.empty())
+                judgeTrashed(path, record);
             if (isTrashRecord(path) && report_ && !excuses_.leftovers) {
                 const std::size_t at = path.rfind("/info/");
                 const std::string name = path.substr(at + 6, path.size() - at - 16);
@@ -198,11 +217,14 @@ private:
         }
     }
 
-    void judgeTrashed(const std::string& path, const std::string& stem) {
-        const auto record = after_.find(stem + ".trashinfo");
+    void judgeTrashed(const std::string& path, const std::string& recordPath) {
+        const bool wasThere = world_.before.contains(path);
+        if (wasThere && !belongsToThing(path))
+            return;
+        const auto record = after_.find(recordPath);
         if (record == after_.end())
             return say("a trashed file without its record: " + path);
-        if (world_.before.contains(path))
+        if (wasThere)
             return;
         const std::string& text = record->second.content;
         const std::size_t at = text.find("\nPath=");
@@ -229,9 +251,28 @@ private:
 
 } // namespace
 
+bool isHidden(const std::string& path) {
+    return path.find("/.quillon-") != std::string::npos;
+}
+
+std::vector<std::string> forgotten(const World& world, const DiskState& after,
+                                   const Report& recovered) {
+    std::vector<std::string> sentences;
+    for (const Thing& thing : world.things) {
+        const auto leadsThere = [&](const Claim& claim) {
+            return claim.thing == thing.path &&
+                   isTreeAt(after, claim.place, thing.versions.back(), Likeness::whole);
+        };
+        if (thing.law == Law::moves && !after.contains(thing.path) &&
+            std::ranges::none_of(recovered, leadsThere))
+            sentences.push_back("nothing leads back to " + thing.path);
+    }
+    return sentences;
+}
+
 std::vector<std::string> breaches(const World& world, const DiskState& after,
                                   const std::optional<Report>& report, const Excuses& excuses) {
     return Judge(world, after, report, excuses).judge();
 }
 
-} // namespace quillon::test
+} // namespace quillon::testing

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 /// What no program could have prevented under the fault at hand.
 struct Excuses {
@@ -23,4 +23,11 @@ struct Excuses {
                                                 const std::optional<Report>& report,
                                                 const Excuses& excuses = {});
 
-} // namespace quillon::test
+/// Whether the path is, or lies in, a temporary that nobody sees.
+[[nodiscard]] bool isHidden(const std::string& path);
+
+/// The moved things to which nothing in a recovered report leads.
+[[nodiscard]] std::vector<std::string> forgotten(const World& world, const DiskState& after,
+                                                 const Report& recovered);
+
+} // namespace quillon::testing

@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 // Strings never hold a NUL, so it ends each of them.
 std::string encodeReport(const Report& report) {
@@ -34,4 +34,4 @@ Report decodeReport(const std::string& bytes) {
     return report;
 }
 
-} // namespace quillon::test
+} // namespace quillon::testing

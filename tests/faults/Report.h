@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 /// What an operation says about one thing when it returns.
 struct Claim {
@@ -20,4 +20,4 @@ using Report = std::vector<Claim>;
 [[nodiscard]] std::string encodeReport(const Report& report);
 [[nodiscard]] Report decodeReport(const std::string& bytes);
 
-} // namespace quillon::test
+} // namespace quillon::testing

@@ -7,11 +7,12 @@
 #include <string>
 #include <vector>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 /// The folders an operation works between, absolute.
 struct Places {
     std::string in, out, trash;
+    std::string data; ///< Quillon's own
 
     /// "out/report.pdf" as an absolute path.
     [[nodiscard]] std::string path(const std::string& name) const;
@@ -28,7 +29,8 @@ struct Subject {
     std::string name; ///< "in/report.pdf"
     DiskTree tree;
     Law law = Law::moves;
-    bool contentsOnly = false; ///< nothing but its contents is promised
+    bool contentsOnly = false;   ///< nothing but its contents is promised
+    bool hasTrashRecord = false; ///< it lies in a trash to begin with
 };
 
 struct Operation {
@@ -36,6 +38,10 @@ struct Operation {
     std::string wanted;                   ///< the name it tries first: "out/report.pdf"
     std::vector<std::string> madeFolders; ///< those it may leave behind empty: "in/PDFs"
     std::function<Report(const Places&)> run;
+    /// What the next start of the program does after this one was killed. Its report is about what
+    /// it knows of the interrupted operation; things it doesn't mention are where they were.
+    std::function<Report(const Places&)> recover = {};
+    bool isJournalled = false; ///< after recovering, the way back to every moved file is known
 };
 
 enum class Devices {
@@ -50,7 +56,6 @@ enum class Machine {
     noExclusiveRename, ///< renameat2 takes no flags, as on old network file systems
     alwaysOtherDevice, ///< renameat2 and link say EXDEV, as between bind mounts
     noKernelCopy,      ///< contents can't be copied inside the kernel
-    noLinks,           ///< neither exclusive renames nor hard links
 };
 
 struct Scenario {
@@ -61,4 +66,4 @@ struct Scenario {
     bool wantedIsTaken = false; ///< a file of somebody else's has the wanted name
 };
 
-} // namespace quillon::test
+} // namespace quillon::testing

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <sys/syscall.h>
 
-namespace quillon::test {
+namespace quillon::testing {
 namespace {
 
 struct KnownCall {
@@ -159,14 +159,10 @@ bool isRemoval(long number) {
 
 SyscallDecision ordinarily(Machine machine, const SyscallStop& stop) {
     const bool exclusive = stop.number == SYS_renameat2 && stop.arguments[4] != 0;
-    const bool links = stop.number == SYS_linkat;
-    const bool noExclusive = machine == Machine::noExclusiveRename || machine == Machine::noLinks;
     if (isOneOf(stop.number, {SYS_fsync, SYS_fdatasync, SYS_syncfs}))
         return SyscallDecision::answer(0);
-    if (exclusive && noExclusive)
+    if (machine == Machine::noExclusiveRename && exclusive)
         return SyscallDecision::fail(EINVAL);
-    if (links && machine == Machine::noLinks)
-        return SyscallDecision::fail(EPERM);
     if (machine == Machine::alwaysOtherDevice && crossesFolders(stop))
         return SyscallDecision::fail(EXDEV);
     if (machine == Machine::noKernelCopy && stop.number == SYS_copy_file_range)
@@ -178,4 +174,4 @@ SyscallDecision ordinarily(Machine machine, const SyscallStop& stop) {
     return decision;
 }
 
-} // namespace quillon::test
+} // namespace quillon::testing

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 [[nodiscard]] std::string syscallName(long number);
 
@@ -22,4 +22,4 @@ namespace quillon::test {
 /// is killed can't tell.
 [[nodiscard]] SyscallDecision ordinarily(Machine machine, const SyscallStop& stop);
 
-} // namespace quillon::test
+} // namespace quillon::testing

@@ -10,7 +10,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
-namespace quillon::test {
+namespace quillon::testing {
 namespace {
 
 std::string temporaryFolder(const std::string& parent) {
@@ -18,6 +18,15 @@ std::string temporaryFolder(const std::string& parent) {
     if (mkdtemp(path.data()) == nullptr)
         throw std::system_error(errno, std::generic_category(), "mkdtemp " + path);
     return path;
+}
+
+void writeTrashRecord(const std::string& trashed) {
+    const std::filesystem::path path(trashed);
+    const std::filesystem::path info = path.parent_path().parent_path() / "info";
+    std::filesystem::create_directories(info);
+    std::ofstream(info / (path.filename().string() + ".trashinfo"))
+        << "[Trash Info]\nPath=/gone/" << path.filename().string()
+        << "\nDeletionDate=2024-05-01T12:00:00\n";
 }
 
 std::uint64_t deviceOf(const std::string& path) {
@@ -132,7 +141,8 @@ World::World(const Scenario& scenario) {
     const bool outFar = scenario.devices == Devices::outElsewhere;
     places = {.in = (inFar ? far : near) + "/in",
               .out = (outFar ? far : near) + "/out",
-              .trash = near + "/trash"};
+              .trash = near + "/trash",
+              .data = ground.near() + "/data"};
     roots_.push_back(near);
     if (inFar && ground.ownsFar())
         roots_.push_back(*ground.far());
@@ -147,6 +157,7 @@ World::World(const Scenario& scenario, Places between) : places(std::move(betwee
 }
 
 World::~World() {
+    removeTree(places.data);
     for (const std::string& root : roots_)
         if (Ground::instance().far() == root)
             for (const auto& entry : std::filesystem::directory_iterator(root))
@@ -171,9 +182,12 @@ void World::fill(const Scenario& scenario) {
     }
     for (const Subject& subject : scenario.operation.subjects) {
         const std::string path = places.path(subject.name);
+        std::filesystem::create_directories(std::filesystem::path(path).parent_path());
         if (subject.law != Law::appears)
             for (const auto& [name, item] : subject.tree)
                 writeItem(path + name, item);
+        if (subject.hasTrashRecord)
+            writeTrashRecord(path);
         things.push_back({path, subject.law, subject.contentsOnly, {subject.tree}});
     }
     before = read();
@@ -226,4 +240,4 @@ void World::replace(Thing& thing) {
         thing.versions.push_back(treeAt(read(), thing.path));
 }
 
-} // namespace quillon::test
+} // namespace quillon::testing

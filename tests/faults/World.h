@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 /// Two folders on different file systems where that can be had, for as long as the process lives.
 class Ground {
@@ -83,4 +83,4 @@ private:
 
 [[nodiscard]] DiskItem sampleFile(const std::string& text, std::size_t size);
 
-} // namespace quillon::test
+} // namespace quillon::testing
