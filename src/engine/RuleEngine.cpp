@@ -104,7 +104,7 @@ MatchProbe RuleEngine::probe(const Rule& rule, const ReadyFiles& ready) const {
     const std::vector<CompiledRule> rules{CompiledRule(rule)};
     const std::vector<FirstMatch> matches = firstMatches(
         {platform_, judge_, rules, ready.folder, platform_.clock.now()}, pointers(ready.files));
-    MatchProbe probe{.tested = ready.files.size()};
+    MatchProbe probe{.matches = {}, .tested = ready.files.size()};
     for (std::size_t i = 0; i < matches.size(); ++i)
         if (matches[i].rule)
             probe.matches.append(fileName(ready.files[i]));
