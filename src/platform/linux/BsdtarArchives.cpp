@@ -17,6 +17,8 @@ namespace {
 
 using SteadyClock = std::chrono::steady_clock;
 
+constexpr std::chrono::minutes longestStandstill{10};
+
 /// A private folder and in it the one that an archive is unpacked into, with a new folder's usual
 /// permissions. The private one goes, with all that is still in it, at the end.
 class Staging {
@@ -56,8 +58,8 @@ private:
     bool isMade_ = false;
 };
 
-/// Says whether the unpacking is still within its limits. Measuring a big tree takes a while, so
-/// that it is done for a tenth of the time at most.
+/// Says whether the unpacking is still within its limits and getting on. Measuring a big tree takes
+/// a while, so that it is done for a tenth of the time at most.
 class LimitWatch {
 public:
     LimitWatch(int folder, std::string root, const UnpackLimits& limits)
@@ -66,12 +68,23 @@ public:
     [[nodiscard]] bool mayContinue() {
         const SteadyClock::time_point start = SteadyClock::now();
         if (start < next_) {
-            return isWithin_;
+            return mayContinue_;
         }
-        isWithin_ = measureTree(folder_, root_, limits_).isWithin(limits_);
+        const TreeSize size = measureTree(folder_, root_, limits_);
         const SteadyClock::time_point end = SteadyClock::now();
+        if (size != size_) {
+            size_ = size;
+            lastGrowth_ = end;
+        }
         next_ = end + 9 * (end - start);
-        return isWithin_;
+        mayContinue_ = size.isWithin(limits_) && end - lastGrowth_ < longestStandstill;
+        return mayContinue_;
+    }
+
+    [[nodiscard]] std::unexpected<Error> reasonToStop() const {
+        return size_.isWithin(limits_)
+                   ? failure(ErrorKind::timedOut, QStringLiteral("unpacking came to a standstill"))
+                   : exceedsLimits();
     }
 
 private:
@@ -79,8 +92,35 @@ private:
     std::string root_;
     const UnpackLimits& limits_;
     SteadyClock::time_point next_;
-    bool isWithin_ = true;
+    SteadyClock::time_point lastGrowth_ = SteadyClock::now();
+    TreeSize size_;
+    bool mayContinue_ = true;
 };
+
+/// Refuses what can't be an archive. Plain text must not reach the tool: it would take some for a
+/// list of files to be gathered from anywhere on this machine.
+Expected<void> checkArchive(const std::string& archive) {
+    const Descriptor file(::open(archive.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    struct stat found = {};
+    if (!file.isOpen() || ::fstat(file.get(), &found) != 0) {
+        return systemFailure(errno);
+    }
+    if (!S_ISREG(found.st_mode)) {
+        return failure(ErrorKind::wrongType, QStringLiteral("it is not a regular file"));
+    }
+    std::array<char, 512> start{};
+    const ssize_t size = ::pread(file.get(), start.data(), start.size(), 0);
+    if (size < 0) {
+        return systemFailure(errno);
+    }
+    const auto isText = [](char byte) {
+        return static_cast<unsigned char>(byte) >= 0x20 ||
+               std::string_view("\t\n\r").contains(byte);
+    };
+    return std::all_of(start.begin(), start.begin() + size, isText)
+               ? failure(ErrorKind::invalid, QStringLiteral("it is not an archive"))
+               : Expected<void>{};
+}
 
 ProcessRequest bsdtarRequest(const std::string& archive, const std::string& staging) {
     ProcessRequest request;
@@ -141,7 +181,7 @@ Expected<void> extract(Processes& processes, const std::string& archive, int fol
         return std::unexpected(result.error());
     }
     if (result->end == ProcessResult::End::stopped) {
-        return exceedsLimits();
+        return watch.reasonToStop();
     }
     if (!result->succeeded()) {
         return failure(ErrorKind::invalid, messageFor(result->errorOutput, staging.contentsPath()));
@@ -172,6 +212,9 @@ BsdtarArchives::BsdtarArchives(Processes& processes, std::string temporaryTag)
 Expected<std::string> BsdtarArchives::unpack(const std::string& archive,
                                              const std::string& wantedFolder,
                                              const UnpackLimits& limits) {
+    if (Expected<void> checked = checkArchive(archive); !checked) {
+        return std::unexpected(checked.error());
+    }
     const std::string parent(parentPath(wantedFolder));
     const Descriptor folder(::open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder.isOpen()) {

@@ -2,6 +2,7 @@
 
 #include "platform/FileNames.h"
 #include "platform/linux/FolderReader.h"
+#include "platform/linux/FolderTrail.h"
 #include "platform/linux/SystemError.h"
 #include "platform/linux/SystemStatus.h"
 
@@ -20,16 +21,16 @@ bool isSpecialType(unsigned char type) {
 
 class Walk {
 public:
-    explicit Walk(const ListOptions& options) : options_(options) {}
+    Walk(int root, const ListOptions& options) : trail_(root), options_(options) {}
 
-    [[nodiscard]] Expected<void> run(int root) {
+    [[nodiscard]] Expected<void> run() {
         std::string folder; // relative to the root
         for (bool isRoot = true; isRoot || !pending_.empty(); isRoot = false) {
             if (!isRoot) {
                 folder = std::move(pending_.back());
                 pending_.pop_back();
             }
-            const Expected<void> read = readFolder(root, folder);
+            const Expected<void> read = readFolder(folder);
             if (isRoot && !read) {
                 return read;
             }
@@ -40,8 +41,8 @@ public:
     [[nodiscard]] Listing take() { return std::move(listing_); }
 
 private:
-    [[nodiscard]] Expected<void> readFolder(int root, const std::string& folder) {
-        Expected<Descriptor> opened = openFolderBelow(root, folder, O_RDONLY);
+    [[nodiscard]] Expected<void> readFolder(const std::string& folder) {
+        Expected<Descriptor> opened = trail_.openForReading(folder);
         if (!opened) {
             return std::unexpected(opened.error());
         }
@@ -94,6 +95,7 @@ private:
         }
     }
 
+    FolderTrail trail_;
     const ListOptions& options_;
     Listing listing_;
     std::vector<std::string> pending_;
@@ -166,8 +168,8 @@ Expected<Listing> listFolder(const std::string& folder, const ListOptions& optio
     if (!root.isOpen()) {
         return systemFailure(errno);
     }
-    Walk walk(options);
-    if (Expected<void> walked = walk.run(root.get()); !walked) {
+    Walk walk(root.get(), options);
+    if (Expected<void> walked = walk.run(); !walked) {
         return std::unexpected(walked.error());
     }
     Listing listing = walk.take();

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "platform/Error.h"
-#include "platform/linux/Descriptor.h"
+#include "platform/linux/FolderTrail.h"
 
 #include <string>
 
 namespace quillon {
 
-/// Finds entries of a tree by their path below its root, keeping the folder it was in last open.
-/// Never goes through a link. The root may be a folder, a file or a link; its own path is "".
+/// Finds entries of a tree by their path below its root. Never goes through a link. The root may be
+/// a folder, a file or a link; its own path is "".
 class TreeCursor {
 public:
     struct Place {
@@ -27,8 +27,7 @@ public:
 private:
     int folder_;
     std::string root_;
-    Descriptor open_;
-    std::string openPath_;
+    FolderTrail trail_;
 };
 
 } // namespace quillon

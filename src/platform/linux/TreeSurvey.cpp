@@ -17,7 +17,7 @@ namespace {
 class Surveyor {
 public:
     Surveyor(int folder, const std::string& root, bool mustBeRemovable)
-        : folder_(folder), root_(root), mustBeRemovable_(mustBeRemovable) {}
+        : folder_(folder), root_(root), trail_(folder), mustBeRemovable_(mustBeRemovable) {}
 
     Expected<TreeSurvey> run() {
         const Expected<FileStatus> status = statusAt(folder_, root_);
@@ -59,7 +59,7 @@ private:
     }
 
     Expected<void> readFolder(const std::string& path) {
-        Expected<Descriptor> opened = openFolderBelow(folder_, joinPath(root_, path), O_RDONLY);
+        Expected<Descriptor> opened = trail_.openForReading(joinPath(root_, path));
         Expected<FolderReader> reader =
             opened ? FolderReader::open(std::move(*opened)) : std::unexpected(opened.error());
         if (!reader) {
@@ -86,6 +86,7 @@ private:
 
     int folder_;
     const std::string& root_;
+    FolderTrail trail_;
     bool mustBeRemovable_;
     std::uint64_t device_ = 0;
     TreeSurvey survey_;

@@ -11,6 +11,7 @@ struct TreeSize {
     std::uint64_t entries = 0;
     std::uint64_t bytes = 0;
 
+    bool operator==(const TreeSize&) const = default;
     [[nodiscard]] bool isWithin(const UnpackLimits& limits) const {
         return entries <= limits.entries && bytes <= limits.bytes;
     }
