@@ -10,7 +10,9 @@
 #include "platform/linux/SystemClock.h"
 #include "platform/linux/XattrProvenance.h"
 #include "platform/linux/XattrTags.h"
+#include "support/AttributeFolder.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <filesystem>
@@ -62,7 +64,18 @@ public:
     }
 
 private:
-    QTemporaryDir root_;
+    /// The first place whose file system holds tags.
+    static QString rootTemplate() {
+        const QString name = QStringLiteral("/quillon-XXXXXX");
+        for (const QString& place : {QDir::tempPath(), QStringLiteral("/var/tmp")}) {
+            const QTemporaryDir trial(place + name);
+            if (trial.isValid() && setAttribute(trial.path().toStdString(), "user.probe", "1"))
+                return place + name;
+        }
+        return QDir::currentPath() + name;
+    }
+
+    QTemporaryDir root_{rootTemplate()};
     LinuxFileSystem fileSystem_{"test"};
     LinuxTrash trash_{fileSystem_, home() + "/.local/share/Trash"};
     XattrTags tags_;
