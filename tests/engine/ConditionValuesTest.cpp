@@ -47,8 +47,8 @@ TEST(ParsedNumber, TakesWholeFiniteNumbers) {
 }
 
 RC_GTEST_PROP(ParsedNumber, AgreesWithTheCLibrary, ()) {
-    const auto text = *rc::gen::container<std::string>(
-        rc::gen::elementOf(std::string("0123456789..--++eExXpaf")));
+    const auto characters = rc::gen::elementOf(std::string("0123456789..--++eExXpaf"));
+    const auto text = *rc::gen::resize(6, rc::gen::container<std::string>(characters));
     char* end = nullptr;
     errno = 0;
     const double number = std::strtod(text.c_str(), &end);
