@@ -54,9 +54,13 @@ Answer answerTo(const CLI::ParseError& error, const CLI::App& app) {
         app.exit(error, text, text);
         return {text.str(), ExitCode::done};
     }
-    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ExtrasError))
+    // An option that is not known explains why a required one seems to be missing.
+    if (!app.remaining(true).empty())
         return unexpected(app);
-    return wrong(error.what(), app);
+    const std::string what = error.what();
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ArgumentMismatch))
+        return wrong(what.substr(0, what.find(':')) + " takes one value and is given once", app);
+    return wrong(what, app);
 }
 
 } // namespace
@@ -66,9 +70,12 @@ std::variant<Command, Answer> parseCommandLine(const std::vector<std::string>& a
         "Quillon keeps folders tidy: it files, renames and tags what lands in them, by rules.",
         "quillon");
     app.set_help_flag("-h,--help", "Show this help");
-    app.set_version_flag("--version", "quillon " QUILLON_VERSION);
+    app.set_version_flag("--version", "quillon " QUILLON_VERSION)->description("Show the version");
     app.get_formatter()->column_width(34);
     app.get_formatter()->label("REQUIRED", "");
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    app.get_formatter()->label("Subcommands", "Commands");
+    app.get_formatter()->label("Positionals", "Arguments");
     app.footer(std::string("quillon COMMAND --help shows an example of each.\n") + exitCodes);
 
     std::vector<std::pair<CLI::App*, Command>> commands;

@@ -108,7 +108,7 @@ constexpr Verb verbs[] = {
      "  quillon preview ~/Downloads --rules rules.json", defineFolderVerb<previewCommand>},
     {"probe", "Show which files each rule alone would catch",
      "  quillon probe ~/Downloads --rules rules.json", defineFolderVerb<probeCommand>},
-    {"check", "Say in plain words what the rules of a file do, and what is wrong with them",
+    {"check", "Say in plain words what a rule file does and what it lacks",
      "  quillon check rules.json", defineCheck},
     {"log", "Show what has been done, newest first", "  quillon log --errors --limit 20",
      defineLog},
