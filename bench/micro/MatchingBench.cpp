@@ -1,11 +1,11 @@
 // What it costs to hold one file against twenty rules, when all that can be known without the disk
 // is known already.
 
+#include "../../tests/support/FakePlatform.h"
 #include "engine/CompiledRule.h"
 #include "engine/KindClassifier.h"
 #include "model/RuleFile.h"
 #include "platform/linux/MimeContentTypes.h"
-#include "support/FakePlatform.h"
 
 #include <QFile>
 #include <benchmark/benchmark.h>

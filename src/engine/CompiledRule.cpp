@@ -5,7 +5,6 @@
 #include <algorithm>
 
 namespace quillon {
-
 namespace {
 
 /// Conditions have no effects, so their order shows only in the time they take.
@@ -37,19 +36,20 @@ CompiledRule::CompiledRule(Rule rule) : rule_(std::move(rule)), needsDobbin_(rul
 }
 
 MatchOutcome CompiledRule::match(MatchContext& context) const {
-    if (applies(context))
+    if (conditionsHold(context) && isNamed(context))
         return MatchOutcome::matches;
     return needsDobbin_ && context.judge.isWaiting(context.file.path())
                ? MatchOutcome::waiting
                : MatchOutcome::doesNotMatch;
 }
 
-bool CompiledRule::applies(MatchContext& context) const {
-    return !rule_.conditions.empty() && conditionsHold(context) &&
-           (!renamesWithDobbin_ || context.judge.smartName(context.file.path()).has_value());
+bool CompiledRule::isNamed(MatchContext& context) const {
+    return !renamesWithDobbin_ || context.judge.smartName(context.file.path()).has_value();
 }
 
 bool CompiledRule::conditionsHold(MatchContext& context) const {
+    if (plain_.empty() && asking_.empty())
+        return false;
     const bool unlessDecided = rule_.matchMode != MatchMode::any;
     const Truth deciding = rule_.matchMode == MatchMode::all ? Truth::no : Truth::yes;
     for (const CompiledCondition& test : plain_)

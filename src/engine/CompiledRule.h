@@ -31,8 +31,8 @@ public:
     [[nodiscard]] QStringList captures(FileFacts& file) const;
 
 private:
-    [[nodiscard]] bool applies(MatchContext& context) const;
     [[nodiscard]] bool conditionsHold(MatchContext& context) const;
+    [[nodiscard]] bool isNamed(MatchContext& context) const;
 
     Rule rule_;
     std::vector<CompiledCondition> plain_;
