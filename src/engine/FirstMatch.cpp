@@ -25,12 +25,10 @@ FirstMatch firstMatch(const std::vector<CompiledRule>& rules, MatchContext& cont
     return {};
 }
 
-void matchRange(const MatchSetup& setup, std::span<const ListedFile* const> files,
-                std::span<FirstMatch> found) {
+void matchRange(const MatchSetup& setup, const std::vector<CompiledRule>& rules,
+                std::span<const ListedFile* const> files, std::span<FirstMatch> found) {
     if (files.empty())
         return;
-    // Rules of its own: threads that share one contend for its reference counts.
-    const std::vector<CompiledRule> rules = setup.rules;
     KindClassifier kinds(setup.platform.contentTypes);
     FileFacts facts(setup.platform, kinds, setup.folder, *files.front());
     MatchContext context{facts, setup.judge, setup.now};
@@ -56,7 +54,7 @@ std::vector<FirstMatch> firstMatches(const MatchSetup& setup,
                        std::span(found).subspan(start, length));
         });
     }
-    matchRange(setup, files.first(std::min(share, files.size())), found);
+    matchRange(setup, setup.rules, files.first(std::min(share, files.size())), found);
     return found;
 }
 
