@@ -137,7 +137,7 @@ Findings failEachCall(const Scenario& scenario) {
                     return SyscallDecision::fail(error);
                 },
                 named(strerrorname_np(error) + std::string(" at"), call),
-                {.leftovers = isRemoval(call.number)});
+                {.leftovers = isRemoval(call.number), .faultyClearing = true});
     return series.findings();
 }
 
@@ -167,6 +167,9 @@ Findings interfereAtEachCall(const Scenario& scenario) {
     Series series(scenario);
     for (const Interference& interference : interferences)
         for (const SyscallStop& call : callsOf(scenario)) {
+            // Whether somebody comes before a call that looks at no name makes no difference.
+            if (possibleErrors(call).size() < 2)
+                continue;
             World world(scenario);
             Excuses excuses;
             series.run(

@@ -45,7 +45,7 @@ public:
         for (const Thing& thing : world_.things)
             judgeThing(thing);
         nothingElseIsVisible();
-        if (report_ && !excuses_.leftovers)
+        if (report_ && !excuses_.leftovers && !isDoneButForClearing())
             nothingIsLeft();
         trashIsInOrder();
         return breaches_;
@@ -121,17 +121,23 @@ private:
 
     void judgeMoved(const Thing& thing, const Claim* claim, const std::vector<std::string>& places,
                     Likeness likeness) {
-        const auto latest = std::ranges::count_if(
-            places, [&](const std::string& place) { return isLatestAt(thing, place, likeness); });
-        if (latest == 0 && !(excuses_.lostUpdate && !places.empty()))
-            say(thing.path + " is whole nowhere");
         const bool isAtSource = std::ranges::find(places, thing.path) != places.end();
         // Between publishing and removing, and nowhere else, two names of it may be found.
         const bool mayDouble = excuses_.doubles || (!report_ && world_.crossesDevices);
-        if (places.size() > (mayDouble && isAtSource ? 2U : 1U))
-            say(thing.path + " is there " + std::to_string(places.size()) + " times, at last as " +
-                places.back());
-        if (mayDouble && !isAtSource && !places.empty())
+        const bool isLeftHalfway =
+            claim != nullptr && !claim->succeeded && claim->place != thing.path;
+        for (const DiskTree& version : thing.versions) {
+            const auto count = std::ranges::count_if(places, [&](const std::string& place) {
+                return isTreeAt(after_, place, version, likeness);
+            });
+            const bool isLatest = &version == &thing.versions.back();
+            if (isLatest && count == 0 && !(excuses_.lostUpdate && !places.empty()))
+                say(thing.path + " is whole nowhere");
+            if (count > (mayDouble && isAtSource ? 2 : 1))
+                say(thing.path + " is there " + std::to_string(count) + " times, at last as " +
+                    places.back());
+        }
+        if ((mayDouble || isLeftHalfway) && !isAtSource && !places.empty())
             excuseRemains(thing);
         if (!report_)
             return;
@@ -194,6 +200,15 @@ private:
             else if (!world_.mayAppear(path))
                 say("a folder came to be: " + path);
         }
+    }
+
+    /// Whoever unpacked everything and then can't take the empty staging folder away has not
+    /// failed.
+    bool isDoneButForClearing() const {
+        const bool unpacks =
+            std::ranges::find(world_.things, Law::appears, &Thing::law) != world_.things.end();
+        return excuses_.faultyClearing && unpacks &&
+               std::ranges::all_of(*report_, &Claim::succeeded);
     }
 
     void nothingIsLeft() {

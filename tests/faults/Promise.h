@@ -11,8 +11,9 @@ namespace quillon::testing {
 
 /// What no program could have prevented under the fault at hand.
 struct Excuses {
-    bool leftovers = false;  ///< a temporary could not be removed
-    bool doubles = false;    ///< nor could a second name of the same file
+    bool leftovers = false;      ///< a temporary could not be removed
+    bool doubles = false;        ///< nor could a second name of the same file
+    bool faultyClearing = false; ///< the fault may have come when all but clearing up was done
     bool lostUpdate = false; ///< somebody wrote to the file between the last look and its removal
 };
 

@@ -56,22 +56,34 @@ struct Services {
                       contentTypes, processes, archives, clock,      {}};
 };
 
-Claim claimOf(const std::string& thing, const Expected<Placement>& placed) {
+/// A failure leaves the thing where it was, unless it names the place of a whole copy.
+Claim failed(const std::string& thing, const std::string& outFolder, const Error& error) {
+    const std::string message = error.message.toStdString();
+    const std::string quote = "“";
+    const std::size_t at = message.find("a whole copy is at the destination as " + quote);
+    if (at == std::string::npos)
+        return {thing, false, thing, "", message};
+    const std::size_t start = message.find(quote, at) + quote.size();
+    const std::string name = message.substr(start, message.find("”", start) - start);
+    return {thing, false, outFolder + "/" + name, "", message};
+}
+
+Claim claimOf(const Places& places, const std::string& thing, const Expected<Placement>& placed) {
     if (!placed)
-        return {thing, false, thing, "", placed.error().message.toStdString()};
+        return failed(thing, places.out, placed.error());
     return {thing, true, placed->path, placed->losses.join(QStringLiteral(", ")).toStdString(), ""};
 }
 
 Report moveFile(const Places& places) {
     Services services(places);
     const std::string from = places.path("in/report.pdf");
-    return {claimOf(from, services.fileSystem.move(from, places.path("out/report.pdf")))};
+    return {claimOf(places, from, services.fileSystem.move(from, places.path("out/report.pdf")))};
 }
 
 Report copyFile(const Places& places) {
     Services services(places);
     const std::string from = places.path("in/report.pdf");
-    return {claimOf(from, services.fileSystem.copy(from, places.path("out/report.pdf")))};
+    return {claimOf(places, from, services.fileSystem.copy(from, places.path("out/report.pdf")))};
 }
 
 ActionResult act(const Places& places, const RuleAction& action, const std::string& path) {
@@ -140,8 +152,9 @@ Report restoreFromTrash(const Places& places) {
     const std::string trashed = places.path("trash/files/report.pdf");
     const auto restored = services.trash.restore(trashed, places.path("out/report.pdf"));
     if (!restored)
-        return {{trashed, false, trashed, "", restored.error().message.toStdString()}};
-    return {{trashed, true, *restored, "", ""}};
+        return {failed(trashed, places.out, restored.error())};
+    // Whatever was lost between two file systems, restoring doesn't say.
+    return {{trashed, true, *restored, "not told", ""}};
 }
 
 Rule rule(const QString& extension, RuleAction action) {
@@ -246,7 +259,7 @@ const DiskTree& unpackedTree() {
 }
 
 DiskItem sampleArchive() {
-    const std::string folder = Ground::instance().near() + "/archive";
+    const std::string folder = Ground::instance().base() + "/archive";
     std::filesystem::create_directory(folder);
     for (const auto& [name, item] : unpackedTree())
         writeItem(folder + "/photos" + name, item);

@@ -144,7 +144,8 @@ std::vector<int> possibleErrors(const SyscallStop& stop) {
     if (call == nullptr)
         return {};
     std::vector<int> errors = call->errors;
-    if (stop.number == SYS_openat && (stop.arguments[2] & (O_CREAT | O_TMPFILE)) == 0)
+    constexpr std::uint64_t making = O_CREAT | (O_TMPFILE & ~O_DIRECTORY);
+    if (stop.number == SYS_openat && (stop.arguments[2] & making) == 0)
         std::erase(errors, ENOSPC);
     return errors;
 }

@@ -52,6 +52,12 @@ bool enterOwnMounts() {
     return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
+/// The thing itself, or a file in it.
+std::string changedFile(const Thing& thing) {
+    const DiskTree& tree = thing.versions.back();
+    return thing.path + (tree.contains("/page.txt") ? "/page.txt" : "");
+}
+
 } // namespace
 
 std::string Places::path(const std::string& name) const {
@@ -66,32 +72,38 @@ const Ground& Ground::instance() {
     return ground;
 }
 
-Ground::Ground() : near_(temporaryFolder(std::filesystem::temp_directory_path())) {
+Ground::Ground()
+    : base_(temporaryFolder(std::filesystem::temp_directory_path())), near_(base_ + "/near") {
+    std::filesystem::create_directory(near_);
     mayMount_ = enterOwnMounts();
     findFar();
 }
 
 Ground::~Ground() {
-    if (far_ && ownsFar_)
+    if (ownsMounts_) {
         umount2(far_->c_str(), MNT_DETACH);
-    else if (far_)
+        umount2(near_.c_str(), MNT_DETACH);
+    } else if (far_) {
         removeTree(*far_);
-    removeTree(near_);
+    }
+    removeTree(base_);
 }
 
 void Ground::findFar() {
-    far_ = mountTmpfs("far", "size=64m");
-    ownsFar_ = far_.has_value();
+    // Mounted on itself, so that its trash is there and not at the top of the machine's own disk.
+    if (mayMount_ && mount(near_.c_str(), near_.c_str(), nullptr, MS_BIND, nullptr) == 0)
+        far_ = mountTmpfs("far", "size=64m");
+    ownsMounts_ = far_.has_value();
     if (!far_ && access("/dev/shm", W_OK) == 0 && deviceOf("/dev/shm") != deviceOf(near_))
         far_ = temporaryFolder("/dev/shm");
-    if (!ownsFar_)
+    if (!ownsMounts_)
         std::cerr << "No file system can be mounted here: runs that need one of their own are "
                      "left out.\n";
 }
 
 std::optional<std::string> Ground::mountTmpfs(const std::string& name,
                                               const std::string& options) const {
-    const std::string path = near_ + "/" + name;
+    const std::string path = base_ + "/" + name;
     std::filesystem::create_directory(path);
     if (mayMount_ && mount("tmpfs", path.c_str(), "tmpfs", 0, options.c_str()) == 0)
         return path;
@@ -99,7 +111,7 @@ std::optional<std::string> Ground::mountTmpfs(const std::string& name,
 }
 
 std::optional<std::string> Ground::mountExt4(const std::string& name, std::size_t megabytes) const {
-    const std::string path = near_ + "/" + name;
+    const std::string path = base_ + "/" + name;
     const std::string image = path + ".image";
     std::filesystem::create_directory(path);
     writeText(image.c_str(), "");
@@ -116,7 +128,7 @@ std::optional<std::string> missingFor(const Scenario& scenario) {
     const Ground& ground = Ground::instance();
     if (scenario.devices != Devices::same && !ground.far())
         return "there is no second file system on this machine";
-    if (scenario.devices == Devices::inElsewhere && !ground.ownsFar())
+    if (scenario.devices == Devices::inElsewhere && !ground.ownsMounts())
         return "no file system can be mounted on this machine";
     return std::nullopt;
 }
@@ -142,12 +154,13 @@ World::World(const Scenario& scenario) {
     places = {.in = (inFar ? far : near) + "/in",
               .out = (outFar ? far : near) + "/out",
               .trash = near + "/trash",
-              .data = ground.near() + "/data"};
-    roots_.push_back(near);
-    if (inFar && ground.ownsFar())
-        roots_.push_back(*ground.far());
+              .data = ground.base() + "/data"};
+    if (ground.ownsMounts())
+        roots_ = {ground.near(), *ground.far()};
     else if (inFar || outFar)
-        roots_.push_back(far);
+        roots_ = {near, far};
+    else
+        roots_ = {near};
     fill(scenario);
 }
 
@@ -159,16 +172,15 @@ World::World(const Scenario& scenario, Places between) : places(std::move(betwee
 World::~World() {
     removeTree(places.data);
     for (const std::string& root : roots_)
-        if (Ground::instance().far() == root)
-            for (const auto& entry : std::filesystem::directory_iterator(root))
-                removeTree(entry.path());
-        else
-            removeTree(root);
+        for (const auto& entry : std::filesystem::directory_iterator(root))
+            removeTree(entry.path());
 }
 
 void World::fill(const Scenario& scenario) {
     for (const std::string& folder : {places.in, places.out, places.trash})
         std::filesystem::create_directories(folder);
+    for (const std::string& root : roots_)
+        std::filesystem::create_directories(root);
     crossesDevices = scenario.machine != Machine::able || scenario.devices != Devices::same;
     wanted = places.path(scenario.operation.wanted);
     for (const std::string& folder : scenario.operation.madeFolders)
@@ -220,7 +232,8 @@ void World::createDanglingLink(const std::string& path) {
 
 void World::appendTo(Thing& thing) {
     // Without waiting: a lease held on the file would make this wait for the stopped operation.
-    const int file = open(thing.path.c_str(), O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC);
+    const std::string path = changedFile(thing);
+    const int file = open(path.c_str(), O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC);
     if (file < 0)
         return;
     const std::string text = "one more line\n";
@@ -231,12 +244,13 @@ void World::appendTo(Thing& thing) {
 }
 
 void World::replace(Thing& thing) {
+    const std::string path = changedFile(thing);
     struct stat status {};
-    if (lstat(thing.path.c_str(), &status) != 0)
+    if (lstat(path.c_str(), &status) != 0)
         return;
-    const std::string other = thing.path + ".saving";
+    const std::string other = places.in + "/saving";
     writeItem(other, sampleFile("saved anew", 5000));
-    if (rename(other.c_str(), thing.path.c_str()) == 0)
+    if (rename(other.c_str(), path.c_str()) == 0)
         thing.versions.push_back(treeAt(read(), thing.path));
 }
 

@@ -15,11 +15,13 @@ public:
     static const Ground& instance();
     ~Ground();
 
+    /// For whatever is in nobody's way.
+    [[nodiscard]] const std::string& base() const { return base_; }
     [[nodiscard]] const std::string& near() const { return near_; }
     /// Absent where this machine offers no second file system.
     [[nodiscard]] const std::optional<std::string>& far() const { return far_; }
-    /// Whether `far` is the top of a file system that is ours alone.
-    [[nodiscard]] bool ownsFar() const { return ownsFar_; }
+    /// Whether each is the top of a mount that is ours alone, with a trash of its own.
+    [[nodiscard]] bool ownsMounts() const { return ownsMounts_; }
 
     /// A new file system of the kind that `mount` makes, at a folder of its own; absent where the
     /// machine does not let us.
@@ -32,10 +34,11 @@ private:
     Ground();
     void findFar();
 
+    std::string base_;
     std::string near_;
     std::optional<std::string> far_;
     bool mayMount_ = false;
-    bool ownsFar_ = false;
+    bool ownsMounts_ = false;
 };
 
 /// Why the scenario can't be staged here; absent where it can.
