@@ -45,28 +45,51 @@ QByteArray unfoldingList() {
 }
 
 using Entries = std::optional<QStringList>;
-
-struct Lists {
-    Entries finder;
-    Entries desktop;
-    Entries samba;
-};
+using Lists = std::array<Entries, 3>; ///< the Finder's, the desktop's, Samba's
 
 struct TagCase {
     const char* title;
-    Lists before;
+    const char* before;    ///< the three lists between bars; a colon stands for a newline
     const char* operation; ///< "+Red6" or "-Red"
     bool changed;
-    Lists after;
-    QStringList tags;
+    const char* after;
+    const char* tags;
 };
 
-QStringList list(std::initializer_list<const char*> entries) {
-    QStringList strings;
-    for (const char* const entry : entries) {
-        strings.append(QString::fromUtf8(entry));
+Entries entries(const QString& text) {
+    QString lines = text;
+    return text.isEmpty() ? Entries() : lines.replace(u':', u'\n').split(u';');
+}
+
+Lists lists(const char* text) {
+    const QStringList parts = QString::fromUtf8(text).split(u'|');
+    return {entries(parts[0]), entries(parts[1]), entries(parts[2])};
+}
+
+QStringList tagNames(const char* text) {
+    return entries(QString::fromUtf8(text)).value_or(QStringList());
+}
+
+void writeLists(const std::string& path, const Lists& lists) {
+    if (lists[0]) {
+        setAttribute(path, finder, encodeStringList(*lists[0]));
     }
-    return strings;
+    if (lists[1]) {
+        setAttribute(path, desktop, lists[1]->join(u',').toUtf8());
+    }
+    if (lists[2]) {
+        setAttribute(path, samba, encodeStringList(*lists[2]) + '\0');
+    }
+}
+
+Lists readLists(const std::string& path) {
+    const auto list = attribute(path, finder);
+    const auto text = attribute(path, desktop);
+    const auto zeroEnded = attribute(path, samba);
+    EXPECT_TRUE(!zeroEnded || zeroEnded->endsWith('\0'));
+    return {list ? decodeStringList(*list) : std::nullopt,
+            text ? Entries(QString::fromUtf8(*text).split(u',')) : std::nullopt,
+            zeroEnded ? decodeStringList(zeroEnded->chopped(1)) : std::nullopt};
 }
 
 void PrintTo(const TagCase& tagCase, std::ostream* out) {
@@ -90,91 +113,34 @@ class TagChangeTest : public TagsTest, public ::testing::WithParamInterface<TagC
 TEST_P(TagChangeTest, ChangesTheListsAndNothingElse) {
     const TagCase& expected = GetParam();
     const std::string path = folder_.file("a.txt");
-    if (expected.before.finder) {
-        setAttribute(path, finder, encodeStringList(*expected.before.finder));
-    }
-    if (expected.before.desktop) {
-        setAttribute(path, desktop, expected.before.desktop->join(u',').toUtf8());
-    }
-    if (expected.before.samba) {
-        setAttribute(path, samba, encodeStringList(*expected.before.samba) + '\0');
-    }
-
+    writeLists(path, lists(expected.before));
     const QString operation = QString::fromUtf8(expected.operation);
     const Expected<bool> changed =
         operation.startsWith(u'+')
             ? tags_.add(path, operation.mid(1).chopped(1), operation.last(1).toInt())
             : tags_.remove(path, operation.mid(1));
-
     EXPECT_EQ(changed, expected.changed);
-    const auto decoded = [&](const char* name) -> Entries {
-        const auto bytes = attribute(path, name);
-        return bytes ? decodeStringList(*bytes) : std::nullopt;
-    };
-    EXPECT_EQ(decoded(finder), expected.after.finder);
-    const auto text = attribute(path, desktop);
-    EXPECT_EQ(text ? Entries(QString::fromUtf8(*text).split(u',')) : Entries(),
-              expected.after.desktop);
-    const auto zeroEnded = attribute(path, samba);
-    EXPECT_EQ(zeroEnded ? decodeStringList(zeroEnded->chopped(1)) : Entries(),
-              expected.after.samba);
-    EXPECT_TRUE(!zeroEnded || zeroEnded->endsWith('\0'));
-    EXPECT_EQ(tags_.tags(path).value(), expected.tags);
+    EXPECT_EQ(readLists(path), lists(expected.after));
+    EXPECT_EQ(tags_.tags(path).value(), tagNames(expected.tags));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, TagChangeTest,
     ::testing::Values(
-        TagCase{
-            "first tag", {}, "+Red6", true, {list({"Red\n6"}), list({"Red"}), {}}, list({"Red"})},
-        TagCase{"other tags keep their colours and are mirrored",
-                {list({"Tax 2024\n0", "Blue\n4"}), {}, {}},
-                "+Red6",
-                true,
-                {list({"Tax 2024\n0", "Blue\n4", "Red\n6"}), list({"Tax 2024", "Blue", "Red"}), {}},
-                list({"Tax 2024", "Blue", "Red"})},
-        TagCase{"a comma is no tag of its own on the desktop",
-                {list({"Paris, Rome\n0"}), {}, {}},
-                "+Red6",
-                true,
-                {list({"Paris, Rome\n0", "Red\n6"}), list({"Red"}), {}},
-                list({"Paris, Rome", "Red"})},
-        TagCase{"known to the desktop alone",
-                {{}, list({"Work", "red"}), {}},
-                "+Red6",
-                false,
-                {{}, list({"Work", "red"}), {}},
-                list({"Work", "red"})},
-        TagCase{"known to Samba alone",
-                {{}, {}, list({"Red\n6"})},
-                "+Red6",
-                false,
-                {{}, {}, list({"Red\n6"})},
-                list({"Red"})},
-        TagCase{"Samba's others stay where they are",
-                {{}, {}, list({"Übung\n2"})},
-                "+Red6",
-                true,
-                {list({"Red\n6"}), list({"Red"}), list({"Übung\n2"})},
-                list({"Red", "Übung"})},
-        TagCase{"the last tag takes the attributes with it",
-                {list({"Red\n6"}), list({"Red"}), {}},
-                "-Red",
-                true,
-                {},
-                {}},
-        TagCase{"every spelling, in every list",
-                {list({"RED", "Blue\n4", "Red\n6"}), list({"red", "Home"}), list({"Red\n6"})},
-                "-Red",
-                true,
-                {list({"Blue\n4"}), list({"Home"}), {}},
-                list({"Blue", "Home"})},
-        TagCase{"none to remove",
-                {list({"Redwood\n6"}), {}, {}},
-                "-Red",
-                false,
-                {list({"Redwood\n6"}), {}, {}},
-                list({"Redwood"})}));
+        TagCase{"first tag", "||", "+Red6", true, "Red:6|Red|", "Red"},
+        TagCase{"others keep their colours and are mirrored", "Tax 2024:0;Blue:4||", "+Red6", true,
+                "Tax 2024:0;Blue:4;Red:6|Tax 2024;Blue;Red|", "Tax 2024;Blue;Red"},
+        TagCase{"a comma is none of the desktop's", "Paris, Rome:0||", "+Red6", true,
+                "Paris, Rome:0;Red:6|Red|", "Paris, Rome;Red"},
+        TagCase{"known to the desktop alone", "|Work;red|", "+Red6", false, "|Work;red|",
+                "Work;red"},
+        TagCase{"known to Samba alone", "||Red:6", "+Red6", false, "||Red:6", "Red"},
+        TagCase{"Samba's others stay where they are", "||Übung:2", "+Red6", true,
+                "Red:6|Red|Übung:2", "Red;Übung"},
+        TagCase{"the last tag takes the attributes with it", "Red:6|Red|", "-Red", true, "||", ""},
+        TagCase{"every spelling, in every list", "RED;Blue:4;Red:6|red;Home|Red:6", "-Red", true,
+                "Blue:4|Home|", "Blue;Home"},
+        TagCase{"none to remove", "Redwood:6||", "-Red", false, "Redwood:6||", "Redwood"}));
 
 TEST_F(TagsTest, WritesTheBytesThatAMacWrites) {
     const std::string path = folder_.file("a.txt");
@@ -186,7 +152,7 @@ TEST_F(TagsTest, ReadsWhatOthersWrite) {
     for (const QByteArray& bytes : {redOfMac, redAsXml}) {
         const std::string path = folder_.file("a.txt");
         setAttribute(path, finder, bytes);
-        EXPECT_EQ(tags_.tags(path).value(), list({"Red"}));
+        EXPECT_EQ(tags_.tags(path).value(), QStringList{QStringLiteral("Red")});
     }
 }
 
@@ -225,7 +191,7 @@ TEST_F(TagsTest, NeverFollowsALink) {
     EXPECT_EQ(tags_.remove(link, QStringLiteral("Red")), false);
     const auto added = tags_.add(link, QStringLiteral("Blue"), 4);
     EXPECT_TRUE(!added && added.error().kind == ErrorKind::unsupported);
-    EXPECT_EQ(tags_.tags(target).value(), list({"Red"}));
+    EXPECT_EQ(tags_.tags(target).value(), QStringList{QStringLiteral("Red")});
 }
 
 TEST_F(TagsTest, ChangesBothListsOrNone) {
