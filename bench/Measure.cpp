@@ -1,6 +1,6 @@
 // Holds quillon against the floor program in the same run: the two take turns on folders made
 // alike, medians are compared, and the table says where a figure is over its limit.
-//   measure QUILLON FLOOR RULES
+//   measure QUILLON FLOOR RULES HOME      HOME is an empty folder
 
 #include "ChildRun.h"
 
@@ -8,7 +8,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -33,38 +32,22 @@ struct Programs {
     std::exit(1);
 }
 
-/// A temporary home folder for every program run, removed at the end.
+/// The home folder of every program run.
 class Place {
 public:
-    Place() {
-        const char* base = std::getenv("TMPDIR");
-        std::string pattern = std::string(base ? base : "/var/tmp") + "/quillon-bench.XXXXXX";
-        if (!mkdtemp(pattern.data()))
-            fail("no temporary folder at " + pattern);
-        root_ = pattern;
+    explicit Place(fs::path home) : home_(std::move(home)) {
         for (const char* name :
              {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
-            setenv(name, home().c_str(), 1);
-        empty();
+            setenv(name, home_.c_str(), 1);
     }
-    ~Place() {
-        std::error_code ignored;
-        fs::remove_all(root_, ignored);
-    }
-    Place(const Place&) = delete;
-    Place& operator=(const Place&) = delete;
 
-    void empty() const {
-        fs::remove_all(home());
-        fs::create_directory(home());
-        fs::permissions(home(), fs::perms::owner_all);
-    }
-    [[nodiscard]] fs::path home() const { return root_ / "home"; }
-    [[nodiscard]] std::string folder() const { return home() / "Downloads"; }
-    [[nodiscard]] std::string sorted() const { return home() / "Sorted"; }
+    [[nodiscard]] std::string folder() const { return home_ / "Downloads"; }
+    [[nodiscard]] std::string sorted() const { return home_ / "Sorted"; }
+    /// Removes what quillon remembers of earlier turns.
+    void forget() const { fs::remove_all(home_ / "Quillon"); }
 
 private:
-    fs::path root_;
+    fs::path home_;
 };
 
 ChildRun mustRun(const std::vector<std::string>& command) {
@@ -98,13 +81,7 @@ struct Pair {
     }
 };
 
-void makeFolder(const Programs& programs, const Place& place) {
-    place.empty();
-    mustRun({programs.floor, "make", place.folder(), std::to_string(fileCount)});
-}
-
 Pair measurePreview(const Programs& programs, const Place& place) {
-    makeFolder(programs, place);
     const std::vector<std::string> floor{programs.floor, "list", place.folder()};
     const std::vector<std::string> quillon{programs.quillon, "preview", place.folder(), "--rules",
                                            programs.rules};
@@ -118,22 +95,26 @@ Pair measurePreview(const Programs& programs, const Place& place) {
     return pair;
 }
 
-void checkMoved(const Place& place) {
+/// Runs a command that moves a tenth of the files, checks that it did, and puts them back.
+ChildRun moveAndReturn(const Programs& programs, const Place& place,
+                       const std::vector<std::string>& command) {
+    const ChildRun run = mustRun(command);
     const auto moved = std::distance(fs::directory_iterator(place.sorted()), {});
     if (moved != movedCount)
         fail(std::to_string(moved) + " files were moved, not " + std::to_string(movedCount));
+    mustRun({programs.floor, "back", place.folder(), place.sorted()});
+    place.forget();
+    return run;
 }
 
 Pair measureTidy(const Programs& programs, const Place& place) {
+    const std::vector<std::string> floor{programs.floor, "move", place.folder(), place.sorted()};
+    const std::vector<std::string> quillon{programs.quillon, "tidy", place.folder(), "--rules",
+                                           programs.rules};
     Pair pair;
     for (int turn = 0; turn < turns; ++turn) {
-        makeFolder(programs, place);
-        pair.floor.add(mustRun({programs.floor, "move", place.folder(), place.sorted()}));
-        checkMoved(place);
-        makeFolder(programs, place);
-        pair.quillon.add(
-            mustRun({programs.quillon, "tidy", place.folder(), "--rules", programs.rules}));
-        checkMoved(place);
+        pair.floor.add(moveAndReturn(programs, place, floor));
+        pair.quillon.add(moveAndReturn(programs, place, quillon));
     }
     return pair;
 }
@@ -149,7 +130,7 @@ Series measureStart(const Programs& programs) {
 bool row(const char* work, const std::string& floor, const std::string& quillon, double figure,
          double limit, const char* unit) {
     const bool held = figure <= limit;
-    std::printf("| %-34s | %8s | %8s | %7.2f %-2s | %6.0f %-2s | %-4s |\n", work, floor.c_str(),
+    std::printf("| %-34s | %9s | %9s | %7.2f %-2s | %6.0f %-2s | %-4s |\n", work, floor.c_str(),
                 quillon.c_str(), figure, unit, limit, unit, held ? "yes" : "NO");
     return held;
 }
@@ -165,19 +146,27 @@ bool ratioRow(const char* work, const Pair& pair) {
                inMilliseconds(median(pair.quillon.milliseconds)), pair.ratio(), 2, "x");
 }
 
-bool printTable(const Pair& preview, const Pair& tidy, const Series& start) {
-    constexpr double kilobytesPerMegabyte = 1000.0 * 1000.0 / 1024.0;
-    const auto megabytes = [](const Series& series) {
-        return static_cast<double>(series.peakKilobytes) / kilobytesPerMegabyte;
-    };
-    std::printf("| %-34s | %8s | %8s | %10s | %9s | %-4s |\n", "work", "floor", "quillon", "figure",
+double peakMegabytes(const Series& series) {
+    return static_cast<double>(series.peakKilobytes) * 1024 / 1e6;
+}
+
+/// Prints each row as soon as it is known; true when every figure is within its limit.
+bool measureAll(const Programs& programs, const Place& place) {
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    std::printf("| %-34s | %9s | %9s | %10s | %9s | %-4s |\n", "work", "floor", "quillon", "figure",
                 "limit", "held");
     std::printf("|---|---|---|---|---|---|\n");
-    bool held = ratioRow("preview, 100,000 files, 20 rules", preview);
+    const Series start = measureStart(programs);
+    bool held = row("quillon --version", "", "", median(start.milliseconds), 15, "ms");
+
+    mustRun({programs.floor, "make", place.folder(), std::to_string(fileCount)});
+    const Pair preview = measurePreview(programs, place);
+    held &= ratioRow("preview, 100,000 files, 20 rules", preview);
+    held &= row("peak memory of that preview", "", "", peakMegabytes(preview.quillon), 100, "MB");
+
+    const Pair tidy = measureTidy(programs, place);
     held &= ratioRow("tidy moving 10,000 of 100,000", tidy);
-    held &= row("peak memory of that preview", "", "", megabytes(preview.quillon), 100, "MB");
-    held &= row("peak memory of that tidy", "", "", megabytes(tidy.quillon), 100, "MB");
-    held &= row("quillon --version", "", "", median(start.milliseconds), 15, "ms");
+    held &= row("peak memory of that tidy", "", "", peakMegabytes(tidy.quillon), 100, "MB");
     return held;
 }
 
@@ -186,14 +175,10 @@ bool printTable(const Pair& preview, const Pair& tidy, const Series& start) {
 
 int main(int argc, char** argv) {
     using namespace quillon::bench;
-    if (argc != 4) {
-        std::fprintf(stderr, "usage: measure QUILLON FLOOR RULES\n");
+    if (argc != 5) {
+        std::fprintf(stderr, "usage: measure QUILLON FLOOR RULES HOME\n");
         return 2;
     }
-    const Programs programs{.quillon = argv[1], .floor = argv[2], .rules = argv[3]};
-    const Place place;
-    const Series start = measureStart(programs);
-    const Pair preview = measurePreview(programs, place);
-    const Pair tidy = measureTidy(programs, place);
-    return printTable(preview, tidy, start) ? 0 : 1;
+    return measureAll({.quillon = argv[1], .floor = argv[2], .rules = argv[3]}, Place(argv[4])) ? 0
+                                                                                                : 1;
 }

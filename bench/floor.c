@@ -2,6 +2,7 @@
  *   floor make DIR COUNT    COUNT empty files, one in ten of which rules-20.json matches
  *   floor list DIR          list the folder and read the status of every file
  *   floor move DIR TARGET   the same, and rename every tenth file into TARGET
+ *   floor back DIR TARGET   undo that: rename everything in TARGET into DIR
  */
 #define _GNU_SOURCE
 #include <dirent.h>
@@ -78,6 +79,20 @@ static void make(const char* folder, int count) {
     sync();
 }
 
+static void moveBack(const char* folder, const char* target) {
+    const int to = open(folder, O_RDONLY | O_DIRECTORY);
+    DIR* listing = opendir(target);
+    if (to < 0 || listing == NULL)
+        fail(target);
+    for (const struct dirent* entry; (entry = readdir(listing)) != NULL;)
+        if (entry->d_name[0] != '.' &&
+            renameat(dirfd(listing), entry->d_name, to, entry->d_name) != 0)
+            fail(entry->d_name);
+    closedir(listing);
+    close(to);
+    sync();
+}
+
 static void walk(const char* folder, int target) {
     DIR* listing = opendir(folder);
     if (listing == NULL)
@@ -115,8 +130,10 @@ int main(int argc, char** argv) {
         walk(argv[2], -1);
     else if (argc == 4 && strcmp(argv[1], "move") == 0)
         walk(argv[2], openTarget(argv[3]));
+    else if (argc == 4 && strcmp(argv[1], "back") == 0)
+        moveBack(argv[2], argv[3]);
     else {
-        fprintf(stderr, "usage: floor make DIR COUNT | list DIR | move DIR TARGET\n");
+        fprintf(stderr, "usage: floor make DIR COUNT | list DIR | move|back DIR TARGET\n");
         return 2;
     }
     return 0;
