@@ -3,7 +3,7 @@
 namespace quillon {
 namespace {
 
-constexpr qsizetype worthwhile = 1 << 16;
+constexpr std::size_t worthwhile = 1 << 16;
 
 void write(JsonStream& json, std::ostream& out) {
     const QByteArray bytes = json.take();

@@ -1,6 +1,8 @@
 #include "cli/NearestWord.h"
 
+#include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace quillon {
 namespace {

@@ -1,6 +1,9 @@
 #include "cli/ShownText.h"
 
 #include <QChar>
+#include <QList>
+
+#include <algorithm>
 
 namespace quillon {
 namespace {

@@ -57,8 +57,8 @@ void printText(const FolderInput& input, const TidyReport& report, std::size_t f
     lines.add(totals.sentence()).endLine();
     if (report.forgotten > 0)
         lines
-            .add(u"The log keeps %1 entries, so undo does not reach %2 of these."_s.arg(
-                QString::number(logCap), counted(report.forgotten, u"file"_s)))
+            .add(u"The log keeps %1 entries, so undo does not reach %2 of these files."_s.arg(
+                QString::number(logCap), QString::number(report.forgotten)))
             .endLine();
     if (std::ranges::any_of(entries, &LogEntry::undoable))
         lines.add(u"Undo with: quillon undo --batch "_s + uuidText(report.batchID)).endLine();

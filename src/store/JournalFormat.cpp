@@ -4,6 +4,7 @@
 #include "model/JsonReader.h"
 
 #include <QHash>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 

@@ -7,6 +7,8 @@
 #include <QUuid>
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace quillon {
 
@@ -18,7 +20,7 @@ public:
     JsonStream& endObject() { return end('}'); }
     JsonStream& beginList() { return begin('['); }
     JsonStream& endList() { return end(']'); }
-    JsonStream& key(const char* name);
+    JsonStream& key(std::string_view name);
 
     JsonStream& text(QStringView value);
     JsonStream& text(std::string_view utf8);
@@ -32,7 +34,7 @@ public:
     /// The next value starts a text of its own.
     JsonStream& beginRecord();
 
-    [[nodiscard]] qsizetype size() const { return bytes_.size(); }
+    [[nodiscard]] std::size_t size() const { return bytes_.size(); }
     /// What has been built since the last call.
     [[nodiscard]] QByteArray take();
 
@@ -41,7 +43,7 @@ private:
     JsonStream& end(char bracket);
     void separate();
 
-    QByteArray bytes_;
+    std::string bytes_;
     bool needsComma_ = false;
 };
 
