@@ -102,7 +102,7 @@ bool removesSource(const SyscallStop& stop, const World& world) {
         return false;
     const bool hasFolder = stop.number == SYS_unlinkat;
     const std::string name = textArgument(stop, hasFolder ? 1 : 0);
-    const std::string& source = world.things.front().path;
+    const std::string source = world.things.front().changingFile();
     return name == source || name == source.substr(source.rfind('/') + 1);
 }
 

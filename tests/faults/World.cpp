@@ -52,12 +52,6 @@ bool enterOwnMounts() {
     return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-/// The thing itself, or a file in it.
-std::string changedFile(const Thing& thing) {
-    const DiskTree& tree = thing.versions.back();
-    return thing.path + (tree.contains("/page.txt") ? "/page.txt" : "");
-}
-
 } // namespace
 
 std::string Places::path(const std::string& name) const {
@@ -67,8 +61,8 @@ std::string Places::path(const std::string& name) const {
     return slash == std::string::npos ? folder : folder + name.substr(slash);
 }
 
-const Ground& Ground::instance() {
-    static const Ground ground;
+Ground& Ground::instance() {
+    static Ground ground;
     return ground;
 }
 
@@ -80,19 +74,19 @@ Ground::Ground()
 }
 
 Ground::~Ground() {
-    if (ownsMounts_) {
-        umount2(far_->c_str(), MNT_DETACH);
-        umount2(near_.c_str(), MNT_DETACH);
-    } else if (far_) {
+    for (const std::string& path : mounts_)
+        umount2(path.c_str(), MNT_DETACH);
+    if (far_ && !ownsMounts_)
         removeTree(*far_);
-    }
     removeTree(base_);
 }
 
 void Ground::findFar() {
     // Mounted on itself, so that its trash is there and not at the top of the machine's own disk.
-    if (mayMount_ && mount(near_.c_str(), near_.c_str(), nullptr, MS_BIND, nullptr) == 0)
-        far_ = mountTmpfs("far", "size=64m");
+    if (mayMount_ && mount(near_.c_str(), near_.c_str(), nullptr, MS_BIND, nullptr) == 0) {
+        mounts_.push_back(near_);
+        far_ = mountTmpfs("size=64m");
+    }
     ownsMounts_ = far_.has_value();
     if (!far_ && access("/dev/shm", W_OK) == 0 && deviceOf("/dev/shm") != deviceOf(near_))
         far_ = temporaryFolder("/dev/shm");
@@ -101,27 +95,24 @@ void Ground::findFar() {
                      "left out.\n";
 }
 
-std::optional<std::string> Ground::mountTmpfs(const std::string& name,
-                                              const std::string& options) const {
-    const std::string path = base_ + "/" + name;
-    std::filesystem::create_directory(path);
-    if (mayMount_ && mount("tmpfs", path.c_str(), "tmpfs", 0, options.c_str()) == 0)
-        return path;
-    return std::nullopt;
+std::optional<std::string> Ground::mountTmpfs(const std::string& options) {
+    const std::string path = temporaryFolder(base_);
+    if (!mayMount_ || mount("tmpfs", path.c_str(), "tmpfs", 0, options.c_str()) != 0)
+        return std::nullopt;
+    return mounts_.emplace_back(path);
 }
 
-std::optional<std::string> Ground::mountExt4(const std::string& name, std::size_t megabytes) const {
-    const std::string path = base_ + "/" + name;
+std::optional<std::string> Ground::mountExt4(std::size_t megabytes) {
+    const std::string path = temporaryFolder(base_);
     const std::string image = path + ".image";
-    std::filesystem::create_directory(path);
     writeText(image.c_str(), "");
     std::filesystem::resize_file(image, megabytes << 20);
     const std::string command = "PATH=$PATH:/usr/sbin:/sbin; mkfs.ext4 -q -m 0 '" + image +
                                 "' >/dev/null 2>&1 && mount -o loop '" + image + "' '" + path +
                                 "' >/dev/null 2>&1";
-    if (mayMount_ && std::system(command.c_str()) == 0)
-        return path;
-    return std::nullopt;
+    if (!mayMount_ || std::system(command.c_str()) != 0)
+        return std::nullopt;
+    return mounts_.emplace_back(path);
 }
 
 std::optional<std::string> missingFor(const Scenario& scenario) {
@@ -208,6 +199,10 @@ void World::fill(const Scenario& scenario) {
             thing.versions = {treeAt(before, thing.path)};
 }
 
+std::string Thing::changingFile() const {
+    return path + (versions.back().contains("/page.txt") ? "/page.txt" : "");
+}
+
 bool World::mayAppear(const std::string& folder) const {
     const std::string name = folder.substr(folder.rfind('/') + 1);
     return std::ranges::find(madeFolders_, folder) != madeFolders_.end() || name == "files" ||
@@ -232,7 +227,7 @@ void World::createDanglingLink(const std::string& path) {
 
 void World::appendTo(Thing& thing) {
     // Without waiting: a lease held on the file would make this wait for the stopped operation.
-    const std::string path = changedFile(thing);
+    const std::string path = thing.changingFile();
     const int file = open(path.c_str(), O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC);
     if (file < 0)
         return;
@@ -244,7 +239,7 @@ void World::appendTo(Thing& thing) {
 }
 
 void World::replace(Thing& thing) {
-    const std::string path = changedFile(thing);
+    const std::string path = thing.changingFile();
     struct stat status {};
     if (lstat(path.c_str(), &status) != 0)
         return;

@@ -12,7 +12,7 @@ namespace quillon::testing {
 /// Two folders on different file systems where that can be had, for as long as the process lives.
 class Ground {
 public:
-    static const Ground& instance();
+    static Ground& instance();
     ~Ground();
 
     /// For whatever is in nobody's way.
@@ -23,12 +23,9 @@ public:
     /// Whether each is the top of a mount that is ours alone, with a trash of its own.
     [[nodiscard]] bool ownsMounts() const { return ownsMounts_; }
 
-    /// A new file system of the kind that `mount` makes, at a folder of its own; absent where the
-    /// machine does not let us.
-    [[nodiscard]] std::optional<std::string> mountTmpfs(const std::string& name,
-                                                        const std::string& options) const;
-    [[nodiscard]] std::optional<std::string> mountExt4(const std::string& name,
-                                                       std::size_t megabytes) const;
+    /// New file systems, empty, with a folder each; absent where the machine does not let us.
+    [[nodiscard]] std::optional<std::string> mountTmpfs(const std::string& options);
+    [[nodiscard]] std::optional<std::string> mountExt4(std::size_t megabytes);
 
 private:
     Ground();
@@ -37,6 +34,7 @@ private:
     std::string base_;
     std::string near_;
     std::optional<std::string> far_;
+    std::vector<std::string> mounts_;
     bool mayMount_ = false;
     bool ownsMounts_ = false;
 };
@@ -50,6 +48,9 @@ struct Thing {
     bool contentsOnly = false;
     /// The last is what it is now. Earlier ones were true before somebody changed it.
     std::vector<DiskTree> versions;
+
+    /// Itself or, of a folder, the file in it with which somebody else meddles.
+    [[nodiscard]] std::string changingFile() const;
 };
 
 /// Fresh folders and files for one run of an operation, gone with the object.

@@ -20,7 +20,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace quillon::test {
+namespace quillon::testing {
 namespace {
 
 constexpr std::size_t answerLimit = 64 * 1024;
@@ -230,4 +230,4 @@ std::string textArgument(const SyscallStop& stop, std::size_t position) {
     }
 }
 
-} // namespace quillon::test
+} // namespace quillon::testing

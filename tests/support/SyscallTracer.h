@@ -8,7 +8,7 @@
 #include <string>
 #include <sys/types.h>
 
-namespace quillon::test {
+namespace quillon::testing {
 
 /// A system call that a traced process is about to make.
 struct SyscallStop {
@@ -57,4 +57,4 @@ struct TracedEnd {
 /// The text to which an argument of the stopped call points.
 [[nodiscard]] std::string textArgument(const SyscallStop& stop, std::size_t position);
 
-} // namespace quillon::test
+} // namespace quillon::testing
