@@ -24,14 +24,20 @@ int linkThenUnlink(int fromFolder, const std::string& from, int toFolder, const 
         const bool hasNoLinks = errno == EPERM || errno == ENOSYS || errno == EMLINK;
         return hasNoLinks ? EOPNOTSUPP : errno;
     }
-    // From here the file has two names. Only a name that is still this file may go.
-    if (!isSameFile(fromFolder, from, toFolder, to)) {
+    // From here the file has two names. Only a name that is still this file may go, so the old one
+    // is looked at last, right before it does.
+    struct statx made = {};
+    struct statx left = {};
+    const int madeError = lookAt(toFolder, to.c_str(), made);
+    const int leftError = lookAt(fromFolder, from.c_str(), left);
+    const bool areSeen = madeError == 0 && leftError == 0;
+    if (leftError == ENOENT || (areSeen && !toFileStatus(left).isSameFileAs(toFileStatus(made)))) {
+        return 0; // somebody has taken the old name away, or put another file there
+    }
+    if (areSeen && ::unlinkat(fromFolder, from.c_str(), 0) == 0) {
         return 0;
     }
-    if (::unlinkat(fromFolder, from.c_str(), 0) == 0) {
-        return 0;
-    }
-    const int error = errno;
+    const int error = areSeen ? errno : std::max(madeError, leftError);
     if (isSameFile(fromFolder, from, toFolder, to)) {
         // Should this fail as well, the file is whole under both names.
         (void)::unlinkat(toFolder, to.c_str(), 0);
