@@ -49,8 +49,9 @@ std::vector<FirstMatch> firstMatches(const MatchSetup& setup,
     std::vector<std::jthread> others;
     for (std::size_t start = share; start < files.size(); start += share) {
         const std::size_t length = std::min(share, files.size() - start);
-        others.emplace_back([&, start, length] {
-            matchRange(setup, files.subspan(start, length),
+        // Rules of its own: threads that share one contend for its reference counts.
+        others.emplace_back([&, start, length, rules = setup.rules] {
+            matchRange(setup, rules, files.subspan(start, length),
                        std::span(found).subspan(start, length));
         });
     }
