@@ -13,10 +13,16 @@ namespace quillon {
 
 namespace {
 
-bool isSameFile(int oneFolder, const std::string& one, int otherFolder, const std::string& other) {
-    const Expected<FileStatus> first = statusAt(oneFolder, one);
-    const Expected<FileStatus> second = statusAt(otherFolder, other);
-    return first && second && first->isSameFileAs(*second);
+/// Whether two names are one file, looked at in the order given. 0 or an errno value in `error`.
+bool isSameFile(int oneFolder, const std::string& one, int otherFolder, const std::string& other,
+                int& error) {
+    struct statx first = {};
+    struct statx second = {};
+    error = lookAt(oneFolder, one.c_str(), first);
+    if (error == 0) {
+        error = lookAt(otherFolder, other.c_str(), second);
+    }
+    return error == 0 && toFileStatus(first).isSameFileAs(toFileStatus(second));
 }
 
 int linkThenUnlink(int fromFolder, const std::string& from, int toFolder, const std::string& to) {
@@ -24,21 +30,19 @@ int linkThenUnlink(int fromFolder, const std::string& from, int toFolder, const 
         const bool hasNoLinks = errno == EPERM || errno == ENOSYS || errno == EMLINK;
         return hasNoLinks ? EOPNOTSUPP : errno;
     }
-    // From here the file has two names. Only a name that is still this file may go, so the old one
-    // is looked at last, right before it does.
-    struct statx made = {};
-    struct statx left = {};
-    const int madeError = lookAt(toFolder, to.c_str(), made);
-    const int leftError = lookAt(fromFolder, from.c_str(), left);
-    const bool areSeen = madeError == 0 && leftError == 0;
-    if (leftError == ENOENT || (areSeen && !toFileStatus(left).isSameFileAs(toFileStatus(made)))) {
-        return 0; // somebody has taken the old name away, or put another file there
+    // From here the file has two names. Only a name that is still this file may go, and the last
+    // look before the old name goes is at that.
+    int error = 0;
+    if (isSameFile(toFolder, to, fromFolder, from, error)) {
+        if (::unlinkat(fromFolder, from.c_str(), 0) == 0) {
+            return 0;
+        }
+        error = errno;
+    } else if (error == 0) {
+        return 0; // somebody put another file under the old name
     }
-    if (areSeen && ::unlinkat(fromFolder, from.c_str(), 0) == 0) {
-        return 0;
-    }
-    const int error = areSeen ? errno : std::max(madeError, leftError);
-    if (isSameFile(fromFolder, from, toFolder, to)) {
+    int ignored = 0;
+    if (isSameFile(fromFolder, from, toFolder, to, ignored)) {
         // Should this fail as well, the file is whole under both names.
         (void)::unlinkat(toFolder, to.c_str(), 0);
     }
