@@ -1,6 +1,7 @@
-#include "cli/LineBuffer.h"
+#include "cli/ProgressBar.h"
 #include "cli/ShownText.h"
 #include "support/CommandBench.h"
+#include "support/FakeClock.h"
 #include "support/PrintQt.h"
 
 #include <QJsonArray>
@@ -68,9 +69,7 @@ const UsageCase usageCases[] = {
     {{"undo", "--last", "--batch", "ABCD"}, ExitCode::usage, "Give one of"},
 
     {{"tidy", "@none", "--rules", "@rules.json"}, ExitCode::unreadable, "No such file"},
-    {{"tidy", "@in/a.pdf", "--rules", "@rules.json"},
-     ExitCode::unreadable,
-     "a.pdf can't be tidied"},
+    {{"tidy", "@in/a.pdf", "--rules", "@rules.json"}, ExitCode::unreadable, "a.pdf can't be read"},
     {{"preview", "@none", "--rules", "@rules.json"}, ExitCode::unreadable, "No such file"},
     {{"probe", "@none", "--rules", "@rules.json"}, ExitCode::unreadable, "No such file"},
     {{"tidy", "@in", "--rules", "@none.json"}, ExitCode::unreadable, "No such file"},
@@ -270,6 +269,26 @@ TEST_F(CommandTest, coloursOnlyWhereAskedFor) {
     const std::vector<std::string> arguments{"check", "@rules.json"};
     EXPECT_THAT(bench_.run(arguments, {}, true).out, HasSubstr("\x1b[1mPapers\x1b[0m"));
     EXPECT_THAT(bench_.run(arguments).out, Not(HasSubstr("\x1b")));
+}
+
+TEST(ProgressBar, showsItselfOnATerminalWhenTheWorkTakesLongAndThenGoes) {
+    for (const bool isTerminal : {true, false}) {
+        FakeClock clock;
+        std::ostringstream terminal;
+        {
+            ProgressBar bar(terminal, clock, isTerminal);
+            bar.update(1, 10);
+            clock.advance(std::chrono::milliseconds(900));
+            bar.update(2, 10);
+            EXPECT_EQ(terminal.str(), "");
+            clock.advance(std::chrono::milliseconds(200));
+            bar.update(5, 10);
+            bar.update(6, 10);
+        }
+        EXPECT_EQ(terminal.str(),
+                  isTerminal ? "\r\x1b[K[###############...............] 5 of 10 files\r\x1b[K"
+                             : "");
+    }
 }
 
 TEST(ShownText, letsNothingReachTheTerminalThatMovesItsCursor) {
