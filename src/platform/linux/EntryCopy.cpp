@@ -83,8 +83,7 @@ Expected<void> finishFolder(const TreeCursor::Place& from, const TreeCursor::Pla
 }
 
 std::unexpected<Error> changedWhileCopied() {
-    return failure(ErrorKind::changed,
-                   QStringLiteral("it changed while it was being copied; nothing was moved"));
+    return failure(ErrorKind::changed, QStringLiteral("it changed while it was being copied"));
 }
 
 } // namespace quillon

@@ -18,8 +18,7 @@ constexpr std::size_t bufferSize = 256 * 1024;
 using Buffer = std::vector<char>;
 
 std::unexpected<Error> changedWhileCopied() {
-    return failure(ErrorKind::changed,
-                   QStringLiteral("the file changed while it was being copied"));
+    return failure(ErrorKind::changed, QStringLiteral("it changed while it was being copied"));
 }
 
 /// Fills as much of the buffer as the file has; less than `wanted` only at its end.

@@ -32,7 +32,7 @@ Expected<void> emptyFolder(int base, const std::string& path, std::vector<std::s
         if (::unlinkat(reader->folder(), name.c_str(), 0) == 0) {
             continue;
         }
-        if (errno != EISDIR && errno != EPERM) {
+        if (errno != EISDIR) {
             return systemFailure(errno);
         }
         // The copy of a folder has its original's permissions, which may forbid to empty it.
@@ -99,7 +99,7 @@ Expected<void> removeTemporary(int folder, const std::string& name) {
     if (::unlinkat(folder, name.c_str(), 0) == 0 || errno == ENOENT) {
         return {};
     }
-    if (errno != EISDIR && errno != EPERM) {
+    if (errno != EISDIR) {
         return systemFailure(errno);
     }
     if (::fchmodat(folder, name.c_str(), S_IRWXU, 0) != 0) {
