@@ -3,8 +3,6 @@
 #include "cli/NearestWord.h"
 #include "cli/VerbTable.h"
 
-#include <CLI/CLI.hpp>
-
 #include <sstream>
 
 namespace quillon {

@@ -2,8 +2,6 @@
 
 #include "cli/Verbs.h"
 
-#include <CLI/CLI.hpp>
-
 #include <cmath>
 
 namespace quillon {

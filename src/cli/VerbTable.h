@@ -2,11 +2,9 @@
 
 #include "cli/CommandLine.h"
 
-#include <span>
+#include <CLI/CLI.hpp>
 
-namespace CLI {
-class App;
-}
+#include <span>
 
 namespace quillon {
 
