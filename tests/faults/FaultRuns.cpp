@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <sys/syscall.h>
 
 namespace quillon::testing {
 namespace {
@@ -45,9 +46,12 @@ public:
     }
 
     void recover(World& world, const std::string& fault) {
+        const Operation& operation = scenario_.operation;
+        DecideSyscall decide; // only a journal is ever synced
+        if (operation.isJournalled)
+            decide = [&](const SyscallStop& stop) { return ordinarily(scenario_.machine, stop); };
         const TracedEnd end =
-            runTraced([&] { return encodeReport(scenario_.operation.recover(world.places)); },
-                      [&](const SyscallStop& stop) { return ordinarily(scenario_.machine, stop); });
+            runTraced([&] { return encodeReport(operation.recover(world.places)); }, decide);
         if (!end.answer)
             return say(fault, "crashed");
         const DiskState after = world.read();
@@ -56,7 +60,7 @@ public:
                 say(fault, "left behind: " + path);
         for (const std::string& breach : breaches(world, after, std::nullopt))
             say(fault, breach);
-        if (scenario_.operation.isJournalled)
+        if (operation.isJournalled)
             for (const std::string& sentence : forgotten(world, after, decodeReport(*end.answer)))
                 say(fault, sentence);
     }
@@ -167,8 +171,8 @@ Findings interfereAtEachCall(const Scenario& scenario) {
     Series series(scenario);
     for (const Interference& interference : interferences)
         for (const SyscallStop& call : callsOf(scenario)) {
-            // Whether somebody comes before a call that looks at no name makes no difference.
-            if (possibleErrors(call).size() < 2)
+            const bool copies = call.number == SYS_copy_file_range || call.number == SYS_pread64;
+            if (!goesByName(call.number) && !(interference.changesSource && copies))
                 continue;
             World world(scenario);
             Excuses excuses;

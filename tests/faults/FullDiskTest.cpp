@@ -69,8 +69,7 @@ protected:
             const Filler filler(small, kilobytes * 1024);
             ASSERT_TRUE(filler.isFull());
             const TracedEnd end =
-                runTraced([&] { return encodeReport(scenario.operation.run(world.places)); },
-                          [](const SyscallStop&) { return SyscallDecision{}; });
+                runTraced([&] { return encodeReport(scenario.operation.run(world.places)); }, {});
             ASSERT_TRUE(end.answer) << "it crashed";
             const Report report = decodeReport(*end.answer);
             (std::ranges::all_of(report, &Claim::succeeded) ? succeeded : failed)++;

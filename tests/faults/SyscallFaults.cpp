@@ -150,6 +150,17 @@ std::vector<int> possibleErrors(const SyscallStop& stop) {
     return errors;
 }
 
+bool goesByName(long number) {
+#ifdef SYS_open
+    if (isOneOf(number, {SYS_open, SYS_mkdir, SYS_rename, SYS_link, SYS_symlink, SYS_unlink,
+                         SYS_rmdir, SYS_stat, SYS_lstat, SYS_access}))
+        return true;
+#endif
+    return isOneOf(number,
+                   {SYS_openat, SYS_mkdirat, SYS_renameat, SYS_renameat2, SYS_linkat, SYS_symlinkat,
+                    SYS_unlinkat, SYS_newfstatat, SYS_statx, SYS_faccessat, SYS_faccessat2});
+}
+
 bool isRemoval(long number) {
 #ifdef SYS_unlink
     if (isOneOf(number, {SYS_unlink, SYS_rmdir}))

@@ -14,6 +14,9 @@ namespace quillon::testing {
 /// call that has nothing to do with files.
 [[nodiscard]] std::vector<int> possibleErrors(const SyscallStop& stop);
 
+/// Whether the call goes by a file's name, so that it matters what has that name at the moment.
+[[nodiscard]] bool goesByName(long number);
+
 /// Whether the call takes a name away.
 [[nodiscard]] bool isRemoval(long number);
 

@@ -9,6 +9,7 @@
 #include <elf.h>
 #include <fcntl.h>
 #include <fstream>
+#include <sched.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
@@ -121,6 +122,29 @@ void waitForOrphans() {
     }
 }
 
+/// Keeps us and the children of the meantime on one processor: every stop hands over from one to
+/// the other, which costs half as much when nobody has to be woken elsewhere.
+class OneProcessor {
+public:
+    OneProcessor() {
+        cpu_set_t here;
+        CPU_ZERO(&here);
+        CPU_SET(static_cast<std::size_t>(sched_getcpu()), &here);
+        isPinned_ = sched_getaffinity(0, sizeof before_, &before_) == 0 &&
+                    sched_setaffinity(0, sizeof here, &here) == 0;
+    }
+    ~OneProcessor() {
+        if (isPinned_)
+            sched_setaffinity(0, sizeof before_, &before_);
+    }
+    OneProcessor(const OneProcessor&) = delete;
+    OneProcessor& operator=(const OneProcessor&) = delete;
+
+private:
+    cpu_set_t before_{};
+    bool isPinned_ = false;
+};
+
 class Tracer {
 public:
     Tracer(pid_t process, const DecideSyscall& decide) : process_(process), decide_(decide) {}
@@ -132,6 +156,11 @@ public:
         if (ptrace(PTRACE_SETOPTIONS, process_, nullptr,
                    PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL) != 0) {
             ::kill(process_, SIGKILL);
+            return end_;
+        }
+        if (!decide_) {
+            ptrace(PTRACE_DETACH, process_, nullptr, nullptr);
+            waitpid(process_, &status, 0);
             return end_;
         }
         int signal = 0;
@@ -189,6 +218,7 @@ private:
 TracedEnd runTraced(const std::function<std::string()>& operation, const DecideSyscall& decide) {
     AnswerPage& page = answerPage();
     page.given = false;
+    const OneProcessor pinned;
     const pid_t process = fork();
     if (process < 0)
         giveUp("fork");
