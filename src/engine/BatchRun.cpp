@@ -33,7 +33,8 @@ bool absorb(const ActionResult& result, ActionType type, LogEntry& entry) {
     }
     if (!result.trashedPath.empty())
         entry.trashedPath = text(result.trashedPath);
-    if (!result.copyPath.empty())
+    // Undo takes the file itself back: once it has moved, no copy stands for it.
+    if (!result.copyPath.empty() && !entry.undoable)
         entry.currentPath = text(result.copyPath);
 
     switch (result.place) {
