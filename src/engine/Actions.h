@@ -2,7 +2,6 @@
 
 #include "engine/ActionResult.h"
 #include "engine/EngineSettings.h"
-#include "engine/FileJudge.h"
 #include "engine/KindClassifier.h"
 #include "model/RuleAction.h"
 #include "platform/FileStatus.h"
@@ -11,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,7 +21,6 @@ class DateFormats;
 /// What an action sees of the file it acts on.
 struct ActionContext {
     const Platform& platform;
-    FileJudge& judge;
     KindClassifier& kinds;
     DateFormats& dates;
     const EngineSettings& settings;
@@ -30,7 +29,9 @@ struct ActionContext {
     unsigned counter = 1;           ///< the rule's running number of this file in this batch
     QStringList captures;           ///< for the tokens {1} to {9}
     std::string watchedFolder = {}; ///< the folder being tidied, absolute; empty when there is none
-    std::string matchedPath = {};   ///< where the file was when the rule took it; empty: at `path`
+    /// The base name that the assistant gave the file. Taken when the rule takes the file: the
+    /// assistant knows it by the path that an earlier action may change.
+    std::optional<QString> smartName = {};
 };
 
 /// Carries the action out. Never fails: what went wrong is a phrase of the result.

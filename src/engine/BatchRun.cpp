@@ -14,10 +14,6 @@ bool runsForeignCode(const Rule& rule) {
     });
 }
 
-QString text(std::string_view bytes) {
-    return QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
-}
-
 bool isUnchanged(const FileStatus& now, const FileStatus& listed) {
     return now.isSameFileAs(listed) && now.size == listed.size && now.modified == listed.modified;
 }
@@ -32,16 +28,16 @@ bool absorb(const ActionResult& result, ActionType type, LogEntry& entry) {
         entry.actionSummary += phrase;
     }
     if (!result.trashedPath.empty())
-        entry.trashedPath = text(result.trashedPath);
+        entry.trashedPath = QString::fromUtf8(result.trashedPath);
     // Undo takes the file itself back: once it has moved, no copy stands for it.
     if (!result.copyPath.empty() && !entry.undoable)
-        entry.currentPath = text(result.copyPath);
+        entry.currentPath = QString::fromUtf8(result.copyPath);
 
     switch (result.place) {
     case ActionResult::Place::same:
         return true;
     case ActionResult::Place::moved:
-        entry.currentPath = text(result.path);
+        entry.currentPath = QString::fromUtf8(result.path);
         entry.undoable = true;
         return true;
     case ActionResult::Place::gone:
@@ -102,7 +98,7 @@ std::vector<BatchRun::Taken> BatchRun::take(std::span<const ListedFile> files) {
     std::vector<Taken> taken;
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         if (matches[i].waiting)
-            result_.waiting.append(text(lastComponent(candidates[i]->path)));
+            result_.waiting.append(QString::fromUtf8(lastComponent(candidates[i]->path)));
         else if (matches[i].rule)
             taken.push_back(planned(*candidates[i], rules_[*matches[i].rule]));
     }
@@ -111,12 +107,11 @@ std::vector<BatchRun::Taken> BatchRun::take(std::span<const ListedFile> files) {
 
 BatchRun::Taken BatchRun::planned(const ListedFile& file, const CompiledRule& rule) {
     FileFacts facts(setup_.platform, kinds_, items_.folder, file);
-    const QString originalPath = text(facts.path());
+    const QString originalPath = QString::fromUtf8(facts.path());
     Taken taken{
         .file = &file,
         .rule = &rule,
         .context = {.platform = setup_.platform,
-                    .judge = setup_.judge,
                     .kinds = kinds_,
                     .dates = dates_,
                     .settings = setup_.settings,
@@ -125,9 +120,9 @@ BatchRun::Taken BatchRun::planned(const ListedFile& file, const CompiledRule& ru
                     .counter = ++counters_[rule.rule().id],
                     .captures = rule.captures(facts),
                     .watchedFolder = items_.folder,
-                    .matchedPath = facts.path()},
+                    .smartName = rule.smartName(setup_.judge, facts)},
         .intent = {.entry = {.date = setup_.platform.clock.now(),
-                             .fileName = text(lastComponent(file.path)),
+                             .fileName = QString::fromUtf8(lastComponent(file.path)),
                              .ruleName = rule.rule().name,
                              .folderName = setup_.folder.name(),
                              .originalPath = originalPath,

@@ -36,15 +36,14 @@ CompiledRule::CompiledRule(Rule rule) : rule_(std::move(rule)), needsDobbin_(rul
 }
 
 MatchOutcome CompiledRule::match(MatchContext& context) const {
-    if (conditionsHold(context) && isNamed(context))
+    const auto isNamed = [&] {
+        return !renamesWithDobbin_ || smartName(context.judge, context.file).has_value();
+    };
+    if (conditionsHold(context) && isNamed())
         return MatchOutcome::matches;
     return needsDobbin_ && context.judge.isWaiting(context.file.path())
                ? MatchOutcome::waiting
                : MatchOutcome::doesNotMatch;
-}
-
-bool CompiledRule::isNamed(MatchContext& context) const {
-    return !renamesWithDobbin_ || context.judge.smartName(context.file.path()).has_value();
 }
 
 bool CompiledRule::conditionsHold(MatchContext& context) const {
@@ -69,6 +68,10 @@ bool CompiledRule::conditionsHold(MatchContext& context) const {
 
 QStringList CompiledRule::captures(FileFacts& file) const {
     return captures_ ? captures_(file) : QStringList();
+}
+
+std::optional<QString> CompiledRule::smartName(FileJudge& judge, const FileFacts& file) const {
+    return renamesWithDobbin_ ? judge.smartName(file.path()) : std::nullopt;
 }
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -30,9 +31,11 @@ public:
     /// empty when there is none or it doesn't match.
     [[nodiscard]] QStringList captures(FileFacts& file) const;
 
+    /// The judge's name for the file, when the rule has an action that gives it that name.
+    [[nodiscard]] std::optional<QString> smartName(FileJudge& judge, const FileFacts& file) const;
+
 private:
     [[nodiscard]] bool conditionsHold(MatchContext& context) const;
-    [[nodiscard]] bool isNamed(MatchContext& context) const;
 
     Rule rule_;
     std::vector<CompiledCondition> plain_;

@@ -40,8 +40,7 @@ std::vector<const ListedFile*> pointers(const std::vector<ListedFile>& files) {
 }
 
 QString fileName(const ListedFile& file) {
-    const std::string_view name = lastComponent(file.path);
-    return QString::fromUtf8(name.data(), qsizetype(name.size()));
+    return QString::fromUtf8(lastComponent(file.path));
 }
 
 } // namespace
@@ -131,7 +130,6 @@ std::vector<PreviewItem> RuleEngine::preview(const std::vector<Rule>& rules,
         const ListedFile& file = ready.files[i];
         FileFacts facts(platform_, kinds, ready.folder, file);
         const ActionContext context{.platform = platform_,
-                                    .judge = judge_,
                                     .kinds = kinds,
                                     .dates = dates,
                                     .settings = settings_,
@@ -139,8 +137,7 @@ std::vector<PreviewItem> RuleEngine::preview(const std::vector<Rule>& rules,
                                     .status = file.status,
                                     .counter = ++counters[*matches[i].rule],
                                     .captures = rule.captures(facts),
-                                    .watchedFolder = ready.folder,
-                                    .matchedPath = facts.path()};
+                                    .watchedFolder = ready.folder};
         PreviewItem item{.fileName = fileName(file), .ruleName = rule.rule().name, .actions = {}};
         for (const RuleAction& action : rule.rule().actions)
             item.actions.append(describeAction(action, context));
@@ -159,8 +156,7 @@ RunResult RuleEngine::execute(const ReadyFiles& items, const std::vector<Rule>& 
 }
 
 QString fileKey(const std::string& path, const FileStatus& status) {
-    return QString::fromUtf8(path.data(), qsizetype(path.size())) + u'|' +
-           QString::number(status.size) + u'|' +
+    return QString::fromUtf8(path) + u'|' + QString::number(status.size) + u'|' +
            QString::number(status.modified.time_since_epoch().count());
 }
 

@@ -116,12 +116,11 @@ TEST(Actions, RefuseAFileInTheSubfoldersPlace) {
     EXPECT_EQ(bench.machine.tree(), (Tree{"TXT", "a.txt"}));
 }
 
-TEST(Actions, KnowTheFileByThePathAtWhichTheRuleTookIt) {
+TEST(Actions, GiveTheAssistantsName) {
     ActionBench bench;
-    bench.machine.write("In/scan.pdf", "");
-    bench.judge.names[bench.machine.at("scan.pdf")] = u"2026-10-14 Amazon £42.50"_qs;
-    ActionContext context = bench.contextOf("In/scan.pdf");
-    context.matchedPath = bench.machine.at("scan.pdf");
+    bench.machine.write("scan.pdf", "");
+    ActionContext context = bench.contextOf("scan.pdf");
+    context.smartName = u"2026-10-14 Amazon £42.50"_qs;
     EXPECT_EQ(performAction(makeAction(renameWithDobbin), context).phrases,
               QStringList{u"renamed to 2026-10-14 Amazon £42.50.pdf"_qs});
 }

@@ -100,6 +100,7 @@ TEST_F(BatchRunTest, saysWhereTheFileItselfWent) {
     const RuleAction nowhere = moveTo(u"relative"_s);
     const RuleAction copies = moveTo(u"~/work/Copies"_s, ActionType::copy);
     const RuleAction trash = makeAction(ActionType::trash);
+    const RuleAction named = makeAction(ActionType::renameWithDobbin);
     const RuleAction tag = makeAction(ActionType::addTag);
     const struct {
         std::vector<RuleAction> actions;
@@ -111,6 +112,7 @@ TEST_F(BatchRunTest, saysWhereTheFileItselfWent) {
         {{copies}, "Copies/a.txt", false, false},
         {{copies, out}, "Out/a.txt", false, true},
         {{out, copies}, "Out/a.txt", false, true},
+        {{out, named}, "Out/Invoice.txt", false, true},
         {{nowhere, tag}, "a.txt", true, false},
         {{nowhere, out}, "Out/a.txt", true, true},
         {{copies, trash, tag}, "", false, true},

@@ -2,7 +2,6 @@
 
 #include "engine/DateFormats.h"
 #include "support/FakePlatform.h"
-#include "support/SilentJudge.h"
 #include "support/SystemTimeZone.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +14,6 @@ using namespace std::chrono;
 TEST(SubfolderName, FollowsTheStrategy) {
     const testing::SystemTimeZone zone("Pacific/Auckland");
     testing::FakePlatform machine;
-    testing::SilentJudge judge;
     KindClassifier kinds(machine.contentTypes);
     DateFormats dates;
     const EngineSettings settings;
@@ -47,7 +45,6 @@ TEST(SubfolderName, FollowsTheStrategy) {
         status.modified = sys_days{2024y / 5 / 31} + 20h;
         status.type = c.type;
         const ActionContext context{.platform = machine.platform,
-                                    .judge = judge,
                                     .kinds = kinds,
                                     .dates = dates,
                                     .settings = settings,

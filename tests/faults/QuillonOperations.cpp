@@ -99,7 +99,6 @@ ActionResult act(const Places& places, const RuleAction& action, const std::stri
                 .trashedPath = {},
                 .phrases = {status.error().message}};
     return performAction(action, {.platform = services.platform,
-                                  .judge = services.judge,
                                   .kinds = kinds,
                                   .dates = dates,
                                   .settings = settings,

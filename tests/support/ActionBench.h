@@ -4,7 +4,6 @@
 #include "engine/DateFormats.h"
 #include "platform/FileSystem.h"
 #include "support/LinuxMachine.h"
-#include "support/SilentJudge.h"
 
 #include <functional>
 
@@ -46,7 +45,6 @@ inline RuleAction unpackArchive(bool keepOriginal) {
 class ActionBench {
 public:
     LinuxMachine machine;
-    SilentJudge judge;
     EngineSettings settings;
 
     [[nodiscard]] ActionContext contextOf(const std::string& name) {
@@ -56,7 +54,6 @@ public:
     [[nodiscard]] ActionContext contextOf(const std::string& name, const Platform& platform) {
         const std::string path = machine.at(name);
         return {.platform = platform,
-                .judge = judge,
                 .kinds = kinds_,
                 .dates = dates_,
                 .settings = settings,

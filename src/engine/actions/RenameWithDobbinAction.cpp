@@ -7,12 +7,10 @@
 namespace quillon {
 
 ActionResult performRenameWithDobbin(const RuleAction&, const ActionContext& context) {
-    // The assistant knows the file by the path at which the rule took it.
-    const std::string& known = context.matchedPath.empty() ? context.path : context.matchedPath;
-    const std::optional<QString> name = context.judge.smartName(known);
-    if (!name)
+    if (!context.smartName)
         return failed(context, QStringLiteral("rename failed: no name yet"));
-    return renameTo(context, keepingExtension(*name, std::string(lastComponent(context.path))));
+    return renameTo(context,
+                    keepingExtension(*context.smartName, std::string(lastComponent(context.path))));
 }
 
 } // namespace quillon
