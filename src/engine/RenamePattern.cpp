@@ -8,10 +8,6 @@ namespace quillon {
 
 namespace {
 
-QString toText(std::string_view bytes) {
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-}
-
 bool isDigit(QChar c) {
     return c >= u'0' && c <= u'9';
 }
@@ -63,9 +59,9 @@ private:
         if (body == u"counter")
             return QString::number(source_.counter);
         if (body == u"name")
-            return toText(parts.stem);
+            return QString::fromUtf8(parts.stem);
         if (body == u"ext")
-            return toText(parts.extension);
+            return QString::fromUtf8(parts.extension);
         if (body == u"date")
             return dates_.format(QStringLiteral("yyyy-MM-dd"), source_.date);
         if (body == u"datetime")
@@ -109,14 +105,15 @@ QString withoutTrailingDots(QString text) {
 
 std::string keepingExtension(const QString& text, const std::string& fileName) {
     const NameParts own = splitName(fileName);
-    const QString ownStem = toText(own.stem);
-    const QString extension = toText(own.extension);
+    const QString ownStem = QString::fromUtf8(own.stem);
+    const QString extension = QString::fromUtf8(own.extension);
     if (extension.isEmpty()) {
         // "{name}.{ext}" must not add a dot on every run.
         const bool keepsDots = fileName.ends_with('.');
         const std::string bytes = (keepsDots ? text : withoutTrailingDots(text)).toStdString();
         const NameParts wanted = splitName(bytes);
-        return legalName(toText(wanted.stem), toText(wanted.extension), ownStem);
+        return legalName(QString::fromUtf8(wanted.stem), QString::fromUtf8(wanted.extension),
+                         ownStem);
     }
     if (text.endsWith(u'.' + extension, Qt::CaseInsensitive)) {
         const qsizetype dot = text.size() - extension.size() - 1;
@@ -126,7 +123,7 @@ std::string keepingExtension(const QString& text, const std::string& fileName) {
 }
 
 std::string expand(const QString& pattern, const RenameSource& source, DateFormats& dates) {
-    const QString text = pattern.isEmpty() ? toText(splitName(source.fileName).stem)
+    const QString text = pattern.isEmpty() ? QString::fromUtf8(splitName(source.fileName).stem)
                                            : substituted(pattern, Tokens(source, dates));
     return keepingExtension(text, source.fileName);
 }

@@ -13,10 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString text(std::string_view bytes) {
-    return QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
-}
-
 void addPhrase(LogEntry& entry, const QString& phrase) {
     if (!entry.actionSummary.isEmpty())
         entry.actionSummary += u", "_s;
@@ -107,12 +103,12 @@ private:
     static LogEntry movedTo(const JournalledFile& file, const std::string& path) {
         LogEntry entry = file.intent.entry;
         const bool sameFolder = parentPath(entry.originalPath->toStdString()) == parentPath(path);
-        const QString done =
-            (sameFolder ? u"renamed to %1"_s : u"moved to %1"_s)
-                .arg(text(lastComponent(sameFolder ? std::string_view(path) : parentPath(path)))) +
-            u", then interrupted"_s;
+        const QString done = (sameFolder ? u"renamed to %1"_s : u"moved to %1"_s)
+                                 .arg(QString::fromUtf8(lastComponent(
+                                     sameFolder ? std::string_view(path) : parentPath(path)))) +
+                             u", then interrupted"_s;
         addPhrase(entry, done);
-        entry.currentPath = text(path);
+        entry.currentPath = QString::fromUtf8(path);
         entry.undoable = true;
         return entry;
     }
@@ -121,7 +117,7 @@ private:
         LogEntry entry = file.intent.entry;
         addPhrase(entry, u"moved to Trash, then interrupted"_s);
         entry.currentPath.reset();
-        entry.trashedPath = text(path);
+        entry.trashedPath = QString::fromUtf8(path);
         entry.undoable = true;
         return entry;
     }

@@ -10,7 +10,7 @@ namespace quillon {
 
 /// A path as people read it.
 [[nodiscard]] inline QString pathText(std::string_view path) {
-    return QString::fromUtf8(path.data(), qsizetype(path.size()));
+    return QString::fromUtf8(path);
 }
 
 /// "1 file", "2 files", "no files".

@@ -22,7 +22,7 @@ QString notFound(const std::string& path, bool inTrash) {
 } // namespace
 
 bool canBeUndone(const LogEntry& entry) {
-    return entry.undoable && entry.originalPath && (entry.currentPath || entry.trashedPath);
+    return entry.canUndo() && (entry.currentPath || entry.trashedPath);
 }
 
 std::optional<LogEntry> newestUndoable(const std::vector<LogEntry>& logs) {

@@ -39,8 +39,7 @@ QString lossNote(const Placement& placement) {
 }
 
 QString nameOf(std::string_view path) {
-    const std::string_view name = lastComponent(path);
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    return QString::fromUtf8(lastComponent(path));
 }
 
 } // namespace quillon
