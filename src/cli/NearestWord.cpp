@@ -24,8 +24,10 @@ std::size_t distance(std::string_view a, std::string_view b) {
 } // namespace
 
 std::string nearestWord(std::string_view word, const std::vector<std::string>& words) {
-    return *std::ranges::min_element(
-        words, {}, [&](const std::string& candidate) { return distance(word, candidate); });
+    // A word that is only cut short is nearer than one that happens to be as short.
+    return *std::ranges::min_element(words, {}, [&](const std::string& candidate) {
+        return std::pair(!candidate.starts_with(word), distance(word, candidate));
+    });
 }
 
 } // namespace quillon

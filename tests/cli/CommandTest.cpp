@@ -52,6 +52,7 @@ const UsageCase usageCases[] = {
     {{}, ExitCode::usage, "tidy"},
     {{"tdy"}, ExitCode::usage, "“tdy” is not a command; the nearest is “tidy”"},
     {{"undoo", "--last"}, ExitCode::usage, "the nearest is “undo”"},
+    {{"--vers"}, ExitCode::usage, "the nearest is “--version”"},
     {{"tidy", "@in", "--rule", "@r"}, ExitCode::usage, "the nearest is “--rules”"},
     {{"tidy", "@in"}, ExitCode::usage, "--rules is required"},
     {{"tidy", "--rules", "@rules.json"}, ExitCode::usage, "DIR is required"},
