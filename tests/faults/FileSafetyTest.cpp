@@ -1,10 +1,13 @@
 #include "faults/FaultRuns.h"
 #include "faults/QuillonOperations.h"
+#include "faults/SyscallFaults.h"
 #include "faults/World.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iostream>
+#include <sys/syscall.h>
 
 namespace quillon::testing {
 
@@ -58,6 +61,23 @@ TEST_P(FileSafety, somebodyInterferes) {
 
 INSTANTIATE_TEST_SUITE_P(Quillon, FileSafety, ::testing::ValuesIn(quillonScenarios()),
                          [](const auto& test) { return test.param.name; });
+
+/// No process can see a power cut coming, and no run here makes one; the order of calls is what
+/// saves the file: its copy is on the disk before it has a name, the name before the source goes.
+TEST(FileSafetyOrder, syncsBeforeItPublishesAndBeforeItRemoves) {
+    const Scenario& scenario =
+        *std::ranges::find(quillonScenarios(), "moveAcross", &Scenario::name);
+    if (const auto reason = tracingRefused() ? tracingRefused() : missingFor(scenario))
+        GTEST_SKIP() << *reason;
+    std::string order;
+    for (const SyscallStop& call : callsOf(scenario))
+        order += isSync(call.number)                                         ? "S"
+                 : call.number == SYS_renameat2 || call.number == SYS_linkat ? "P"
+                 : isRemoval(call.number)                                    ? "R"
+                                                                             : "";
+    // The first attempt to rename finds out that there are two devices.
+    EXPECT_EQ(order, "PSPSR");
+}
 
 /// The runs above are worth what they cover.
 TEST(FileSafetyCoverage, killsAtAThousandPoints) {

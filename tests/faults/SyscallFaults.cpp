@@ -161,6 +161,10 @@ bool goesByName(long number) {
                     SYS_unlinkat, SYS_newfstatat, SYS_statx, SYS_faccessat, SYS_faccessat2});
 }
 
+bool isSync(long number) {
+    return isOneOf(number, {SYS_fsync, SYS_fdatasync, SYS_syncfs});
+}
+
 bool isRemoval(long number) {
 #ifdef SYS_unlink
     if (isOneOf(number, {SYS_unlink, SYS_rmdir}))
@@ -171,7 +175,7 @@ bool isRemoval(long number) {
 
 SyscallDecision ordinarily(Machine machine, const SyscallStop& stop) {
     const bool exclusive = stop.number == SYS_renameat2 && stop.arguments[4] != 0;
-    if (isOneOf(stop.number, {SYS_fsync, SYS_fdatasync, SYS_syncfs}))
+    if (isSync(stop.number))
         return SyscallDecision::answer(0);
     if (machine == Machine::noExclusiveRename && exclusive)
         return SyscallDecision::fail(EINVAL);

@@ -20,6 +20,9 @@ namespace quillon::testing {
 /// Whether the call takes a name away.
 [[nodiscard]] bool isRemoval(long number);
 
+/// Whether the call returns once the disk has what was written.
+[[nodiscard]] bool isSync(long number);
+
 /// What the machine at hand makes of a call that no fault is about. Transfers are cut short, so
 /// that there are moments at which a file is half copied, and syncing takes no time: a process that
 /// is killed can't tell.

@@ -9,6 +9,7 @@
 #include <elf.h>
 #include <fcntl.h>
 #include <fstream>
+#include <map>
 #include <sched.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
@@ -186,7 +187,8 @@ private:
             setResult(process_, *std::exchange(answer_, std::nullopt));
         if (info.op != PTRACE_SYSCALL_INFO_ENTRY)
             return;
-        SyscallStop stop{process_, end_.calls++, static_cast<long>(info.entry.nr), {}};
+        const long number = static_cast<long>(info.entry.nr);
+        SyscallStop stop{process_, end_.calls++, number, occurrences_[number]++, {}};
         std::copy_n(info.entry.args, stop.arguments.size(), stop.arguments.begin());
         apply(decide_(stop));
     }
@@ -210,6 +212,7 @@ private:
     const pid_t process_;
     const DecideSyscall& decide_;
     std::optional<long> answer_;
+    std::map<long, std::size_t> occurrences_;
     TracedEnd end_;
 };
 

@@ -15,6 +15,7 @@ struct SyscallStop {
     pid_t process = 0;
     std::size_t index = 0; ///< counted from the operation's first call
     long number = 0;
+    std::size_t occurrence = 0; ///< counted among the calls of this number
     std::array<std::uint64_t, 6> arguments{};
 };
 
