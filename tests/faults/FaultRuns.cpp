@@ -100,7 +100,7 @@ constexpr Interference interferences[] = {
     {"a dangling link of the wanted name appears before", false,
      [](World& world) { world.createDanglingLink(world.wanted); }},
     {"somebody writes to the source before", true,
-     [](World& world) { world.appendTo(world.things.front()); }},
+     [](World& world) { world.overwrite(world.things.front()); }},
     {"somebody saves another file over the source before", true,
      [](World& world) { world.replace(world.things.front()); }},
 };

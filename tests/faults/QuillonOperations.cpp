@@ -282,7 +282,7 @@ Subject report(Law law = Law::moves) {
 Subject folderSubject() {
     return {.name = "in/report.pdf",
             .tree = {{"", {.mode = S_IFDIR | 0750}},
-                     {"/page.txt", sampleFile("page", 9000)},
+                     {"/page.txt", sampleFile("page", 45'000)},
                      {"/more", {.mode = S_IFDIR | 0700}},
                      {"/more/link", {.mode = S_IFLNK | 0777, .content = "../page.txt"}},
                      {"/more/page.txt", sampleFile("more", 20'000)}}};

@@ -225,13 +225,13 @@ void World::createDanglingLink(const std::string& path) {
         before[path] = readDisk({places.in, places.out, places.trash}).at(path);
 }
 
-void World::appendTo(Thing& thing) {
+void World::overwrite(Thing& thing) {
     // Without waiting: a lease held on the file would make this wait for the stopped operation.
     const std::string path = thing.changingFile();
-    const int file = open(path.c_str(), O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC);
+    const int file = open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
     if (file < 0)
         return;
-    const std::string text = "one more line\n";
+    const std::string text = sampleFile("in its place", 40'000).content;
     const bool written = write(file, text.data(), text.size()) > 0;
     close(file);
     if (written)

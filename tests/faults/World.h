@@ -69,7 +69,8 @@ public:
     /// Another program's doings between two system calls of the operation.
     void createFile(const std::string& path);
     void createDanglingLink(const std::string& path);
-    void appendTo(Thing& thing);
+    /// Of at least 40,000 bytes the size stays, and only the date tells.
+    void overwrite(Thing& thing);
     void replace(Thing& thing);
 
     Places places;
