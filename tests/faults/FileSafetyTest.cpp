@@ -1,5 +1,5 @@
 #include "faults/FaultRuns.h"
-#include "faults/QuillonOperations.h"
+#include "faults/QuillonScenarios.h"
 #include "faults/SyscallFaults.h"
 #include "faults/World.h"
 

@@ -1,5 +1,5 @@
 #include "faults/Promise.h"
-#include "faults/QuillonOperations.h"
+#include "faults/QuillonScenarios.h"
 #include "faults/World.h"
 #include "support/SyscallTracer.h"
 

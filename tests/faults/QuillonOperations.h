@@ -1,13 +1,32 @@
 #pragma once
 
 #include "faults/Scenario.h"
+#include "model/RuleAction.h"
 
-#include <vector>
+#include <functional>
 
 namespace quillon::testing {
 
-/// Every way in which Quillon puts a user's file somewhere else, on every kind of machine that
-/// makes a difference to it.
-[[nodiscard]] const std::vector<Scenario>& quillonScenarios();
+// What Quillon does to "in/report.pdf" and its like, with the services it has at work, and what it
+// says came of it.
+
+[[nodiscard]] Report moveFile(const Places& places);
+[[nodiscard]] Report copyFile(const Places& places);
+[[nodiscard]] std::function<Report(const Places&)> acting(RuleAction action);
+[[nodiscard]] Report restoreFromTrash(const Places& places);
+
+inline constexpr const char* archiveName = "in/photos.tar.gz";
+inline constexpr const char* unpackedName = "in/photos";
+[[nodiscard]] Report unpackArchive(const Places& places);
+
+/// One file each to move (pdf), copy (doc), trash (log), rename (csv) and sort (jpg), with the
+/// store and its journal.
+[[nodiscard]] Report tidyFolder(const Places& places);
+
+/// The next start after tidying was interrupted, and what the activity log says then.
+[[nodiscard]] Report recoverTidying(const Places& places);
+
+/// Takes away what a killed run left hidden in the folders that it worked in.
+[[nodiscard]] Report removeLeftovers(const Places& places);
 
 } // namespace quillon::testing
