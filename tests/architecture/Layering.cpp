@@ -1,8 +1,9 @@
 #include "architecture/Layering.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
-#include <regex>
 #include <set>
 #include <sstream>
 
@@ -23,10 +24,15 @@ std::ptrdiff_t rankOf(std::string_view path) {
 constexpr std::ptrdiff_t noLayer = std::ssize(layers);
 const std::ptrdiff_t storeRank = rankOf("store");
 
+/// A pattern for a whole text.
+QRegularExpression whole(const char* pattern) {
+    return QRegularExpression(QRegularExpression::anchoredPattern(QString::fromUtf8(pattern)));
+}
+
 bool isOperatingSystemHeader(const std::string& name) {
-    static const std::regex pattern(
+    static const QRegularExpression pattern = whole(
         R"((sys|linux|arpa|net|netinet|asm|attr|acl|bits)/.*|(unistd|fcntl|dirent|pwd|grp|poll|spawn|signal|csignal|pthread|dlfcn|termios|utime|fts|ftw|glob|syslog|wait|mntent)(\.h)?|windows\.h)");
-    return std::regex_match(name, pattern);
+    return pattern.match(QString::fromStdString(name)).hasMatch();
 }
 
 std::string withoutComment(const std::string& line) {
@@ -55,18 +61,18 @@ public:
 
 private:
     void checkLine(const std::string& line) {
-        static const std::regex quoted(R"re(\s*#\s*include\s*"([^"]+)".*)re");
-        static const std::regex angled(R"(\s*#\s*include\s*<([^>]+)>.*)");
-        static const std::regex conditional(R"(\s*#\s*(if|ifdef|ifndef|elif)\b.*)");
-        static const std::regex object(R"(.*\b(Q_OBJECT|Q_GADGET|QObject)\b.*)");
-        std::smatch match;
-        if (std::regex_match(line, match, quoted))
-            checkInclude(match[1]);
-        else if (std::regex_match(line, match, angled))
-            checkSystemHeader(match[1]);
-        else if (!onLinux_ && std::regex_match(line, conditional))
+        static const QRegularExpression quoted = whole(R"re(\s*#\s*include\s*"([^"]+)".*)re");
+        static const QRegularExpression angled = whole(R"(\s*#\s*include\s*<([^>]+)>.*)");
+        static const QRegularExpression conditional = whole(R"(\s*#\s*(if|ifdef|ifndef|elif)\b.*)");
+        static const QRegularExpression object = whole(R"(.*\b(Q_OBJECT|Q_GADGET|QObject)\b.*)");
+        const QString text = QString::fromStdString(line);
+        if (const auto include = quoted.match(text); include.hasMatch())
+            checkInclude(include.captured(1).toStdString());
+        else if (const auto header = angled.match(text); header.hasMatch())
+            checkSystemHeader(header.captured(1).toStdString());
+        else if (!onLinux_ && conditional.match(text).hasMatch())
             say("conditional code outside of platform/linux");
-        if (rank_ > storeRank && std::regex_match(line, object))
+        if (rank_ > storeRank && object.match(text).hasMatch())
             say("QObject below store");
     }
 
