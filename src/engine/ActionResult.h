@@ -11,9 +11,9 @@ namespace quillon {
 /// The outcome of one action on one file.
 struct ActionResult {
     enum class Place {
-        same,    ///< the file is where it was
-        moved,   ///< the file is at `path`
-        gone,    ///< the file is in the trash; later actions are passed over
+        same,  ///< the file is where it was
+        moved, ///< the file is at `path`
+        gone,  ///< the file is in the trash; later actions are passed over
     };
     Place place = Place::same;
     bool succeeded = true;

@@ -52,113 +52,125 @@ bool absorb(const ActionResult& result, ActionType type, LogEntry& entry) {
 
 BatchRun::BatchRun(const Setup& setup, const ReadyFiles& items, const std::vector<Rule>& rules,
                    const QSet<QString>& skip)
-    : setup_(setup), items_(items), skip_(skip), kinds_(setup.platform.contentTypes) {
+    : setup_(setup)
+    , items_(items)
+    , skip_(skip)
+    , kinds_(setup.platform.contentTypes)
+    , folderName_(setup.folder.name()) {
     for (const Rule& rule : rules)
         if (rule.isEnabled)
             rules_.emplace_back(rule);
-    // A script may change any file of the folder, so the next file is matched only after it has
-    // run.
-    const bool foreign = std::ranges::any_of(
-        rules_, [](const CompiledRule& rule) { return runsForeignCode(rule.rule()); });
-    groupSize_ = foreign ? 1 : fullGroup;
 }
 
 RunResult BatchRun::run() {
-    const std::span<const ListedFile> files(items_.files);
-    for (std::size_t start = 0; start < files.size(); start += groupSize_) {
-        std::vector<Taken> group =
-            take(files.subspan(start, std::min(groupSize_, files.size() - start)));
-        if (const auto written = writeIntents(group); !written) {
-            result_.stopped = written.error();
-            return std::move(result_);
+    for (std::size_t start = 0; start < items_.files.size();) {
+        Group group = take(start);
+        if (!group.intents.empty())
+            if (const auto written = setup_.journal.intend(group.intents); !written) {
+                result_.stopped = written.error();
+                return std::move(result_);
+            }
+        for (std::size_t i = 0; i < group.taken.size(); ++i) {
+            act(group.taken[i], group.intents[i].entry);
+            report(start + i);
         }
-        for (std::size_t i = 0; i < group.size(); ++i) {
-            act(group[i]);
-            if (i % 64 == 0)
-                report(start + i);
-        }
-        report(std::min(start + groupSize_, files.size()));
+        report(group.end);
+        start = group.end;
     }
     return std::move(result_);
 }
 
-std::vector<BatchRun::Taken> BatchRun::take(std::span<const ListedFile> files) {
-    std::vector<const ListedFile*> candidates;
-    candidates.reserve(files.size());
-    for (const ListedFile& file : files) {
-        const QString key = fileKey(joinPath(items_.folder, file.path), file.status);
-        result_.seenKeys.insert(key);
-        if (!skip_.contains(key))
-            candidates.push_back(&file);
-    }
-
+BatchRun::Group BatchRun::take(std::size_t start) {
+    const std::span<const ListedFile> rest = std::span(items_.files).subspan(start);
+    const std::span<const ListedFile> files = rest.first(std::min(fullGroup, rest.size()));
+    const std::vector<const ListedFile*> candidates = unskipped(files);
     const MatchSetup matching{setup_.platform, setup_.judge, rules_, items_.folder,
                               setup_.platform.clock.now()};
     const std::vector<FirstMatch> matches = firstMatches(matching, candidates);
-    std::vector<Taken> taken;
+
+    Group group{.taken = {}, .intents = {}, .end = start + files.size()};
+    const auto count = std::size_t(std::ranges::count_if(
+        matches, [](const FirstMatch& match) { return match.rule.has_value(); }));
+    group.taken.reserve(count);
+    group.intents.reserve(count);
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         if (matches[i].waiting)
             result_.waiting.append(QString::fromUtf8(lastComponent(candidates[i]->path)));
-        else if (matches[i].rule)
-            taken.push_back(planned(*candidates[i], rules_[*matches[i].rule]));
+        if (!matches[i].rule)
+            continue;
+        const CompiledRule& rule = rules_[*matches[i].rule];
+        group.taken.push_back(taken(*candidates[i], rule));
+        group.intents.push_back(intent(group.taken.back()));
+        // A script may change any file of the folder, so what comes after it is matched anew.
+        if (runsForeignCode(rule.rule())) {
+            group.end = start + std::size_t(candidates[i] - files.data()) + 1;
+            break;
+        }
     }
-    return taken;
+    return group;
 }
 
-BatchRun::Taken BatchRun::planned(const ListedFile& file, const CompiledRule& rule) {
+std::vector<const ListedFile*> BatchRun::unskipped(std::span<const ListedFile> files) {
+    // Keys are remembered by folder; for one without an identity nobody will.
+    const bool needsKeys = !setup_.folder.id.isNull() || !skip_.isEmpty();
+    std::vector<const ListedFile*> candidates;
+    candidates.reserve(files.size());
+    for (const ListedFile& file : files) {
+        if (needsKeys) {
+            const QString key = fileKey(joinPath(items_.folder, file.path), file.status);
+            result_.seenKeys.insert(key);
+            if (skip_.contains(key))
+                continue;
+        }
+        candidates.push_back(&file);
+    }
+    return candidates;
+}
+
+BatchRun::Taken BatchRun::taken(const ListedFile& file, const CompiledRule& rule) {
     FileFacts facts(setup_.platform, kinds_, items_.folder, file);
-    const QString originalPath = QString::fromUtf8(facts.path());
-    Taken taken{
-        .file = &file,
-        .rule = &rule,
-        .context = {.platform = setup_.platform,
-                    .kinds = kinds_,
-                    .dates = dates_,
-                    .settings = setup_.settings,
-                    .path = facts.path(),
-                    .status = file.status,
-                    .counter = ++counters_[rule.rule().id],
-                    .captures = rule.captures(facts),
-                    .watchedFolder = items_.folder,
-                    .smartName = rule.smartName(setup_.judge, facts)},
-        .intent = {.entry = {.date = setup_.platform.clock.now(),
-                             .fileName = QString::fromUtf8(lastComponent(file.path)),
-                             .ruleName = rule.rule().name,
-                             .folderName = setup_.folder.name(),
-                             .originalPath = originalPath,
-                             .currentPath = originalPath,
-                             .batchID = setup_.batchID},
-                   .status = file.status,
-                   .targetFolders = {}},
-    };
+    return {.file = &file,
+            .rule = &rule,
+            .context = {.platform = setup_.platform,
+                        .kinds = kinds_,
+                        .dates = dates_,
+                        .settings = setup_.settings,
+                        .path = facts.path(),
+                        .status = file.status,
+                        .counter = ++counters_[rule.rule().id],
+                        .captures = rule.captures(facts),
+                        .watchedFolder = items_.folder,
+                        .smartName = rule.smartName(setup_.judge, facts)}};
+}
+
+Intent BatchRun::intent(const Taken& taken) const {
+    const QString originalPath = QString::fromUtf8(taken.context.path);
+    const Rule& rule = taken.rule->rule();
+    Intent intent{.entry = {.date = setup_.platform.clock.now(),
+                            .fileName = QString::fromUtf8(lastComponent(taken.file->path)),
+                            .ruleName = rule.name,
+                            .folderName = folderName_,
+                            .originalPath = originalPath,
+                            .currentPath = originalPath,
+                            .batchID = setup_.batchID},
+                  .status = taken.file->status,
+                  .targetFolders = {}};
     if (!setup_.folder.id.isNull())
-        taken.intent.entry.folderID = setup_.folder.id;
+        intent.entry.folderID = setup_.folder.id;
 
     ActionContext ahead = taken.context;
-    for (const RuleAction& action : rule.rule().actions) {
+    for (const RuleAction& action : rule.actions) {
         const std::vector<std::string> targets = targetFolders(action, ahead);
-        taken.intent.targetFolders.insert(taken.intent.targetFolders.end(), targets.begin(),
-                                          targets.end());
+        intent.targetFolders.insert(intent.targetFolders.end(), targets.begin(), targets.end());
         if (!targets.empty() && action.type != ActionType::copy)
             ahead.path = joinPath(targets.front(), lastComponent(ahead.path));
     }
-    return taken;
+    return intent;
 }
 
-Expected<void> BatchRun::writeIntents(std::span<const Taken> group) {
-    if (group.empty())
-        return {};
-    std::vector<Intent> intents;
-    intents.reserve(group.size());
-    for (const Taken& taken : group)
-        intents.push_back(taken.intent);
-    return setup_.journal.intend(intents);
-}
-
-void BatchRun::act(Taken& taken) {
+void BatchRun::act(Taken& taken, LogEntry& entry) {
     FileSystem& fileSystem = setup_.platform.fileSystem;
     ActionContext& context = taken.context;
-    LogEntry& entry = taken.intent.entry;
 
     // Whatever was decided holds for the file as it was listed; one that has changed since waits
     // for the next run.
@@ -184,7 +196,7 @@ void BatchRun::act(Taken& taken) {
             break;
     }
     if (!entry.actionSummary.isEmpty())
-        result_.entries.push_back(entry);
+        result_.entries.push_back(std::move(entry));
 }
 
 void BatchRun::report(std::size_t done) const {

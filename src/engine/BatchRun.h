@@ -39,21 +39,28 @@ private:
         const ListedFile* file;
         const CompiledRule* rule;
         ActionContext context;
-        Intent intent;
     };
 
-    [[nodiscard]] std::vector<Taken> take(std::span<const ListedFile> files);
-    [[nodiscard]] Taken planned(const ListedFile& file, const CompiledRule& rule);
-    [[nodiscard]] Expected<void> writeIntents(std::span<const Taken> group);
-    void act(Taken& taken);
+    /// Files handled under one sync of the journal.
+    struct Group {
+        std::vector<Taken> taken;
+        std::vector<Intent> intents; ///< of the taken files, in their order
+        std::size_t end = 0;         ///< index of the first file after the group
+    };
+
+    [[nodiscard]] Group take(std::size_t start);
+    [[nodiscard]] std::vector<const ListedFile*> unskipped(std::span<const ListedFile> files);
+    [[nodiscard]] Taken taken(const ListedFile& file, const CompiledRule& rule);
+    [[nodiscard]] Intent intent(const Taken& taken) const;
+    void act(Taken& taken, LogEntry& entry);
     void report(std::size_t done) const;
 
     Setup setup_;
     const ReadyFiles& items_;
     const QSet<QString>& skip_;
     std::vector<CompiledRule> rules_;
-    std::size_t groupSize_;
     KindClassifier kinds_;
+    QString folderName_;
     DateFormats dates_;
     QHash<QUuid, unsigned> counters_;
     RunResult result_;

@@ -1,5 +1,6 @@
 #include "engine/DateFormats.h"
 
+#include <QHash>
 #include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
 

@@ -5,7 +5,8 @@
 namespace quillon {
 
 struct EngineSettings {
-    std::chrono::duration<double> settleTime{3.0}; ///< a file changed less than this ago is deferred
+    std::chrono::duration<double> settleTime{
+        3.0}; ///< a file changed less than this ago is deferred
     std::chrono::milliseconds scriptTimeout{std::chrono::minutes(10)};
 };
 

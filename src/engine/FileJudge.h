@@ -9,8 +9,8 @@ namespace quillon {
 
 enum class Verdict { yes, no, unknown };
 
-/// Answers about single files that only the assistant can give. Never waits: what it doesn't know it
-/// queues. Any thread.
+/// Answers about single files that only the assistant can give. Never waits: what it doesn't know
+/// it queues. Any thread.
 class FileJudge {
 public:
     virtual ~FileJudge() = default;

@@ -12,13 +12,13 @@ namespace quillon {
 
 /// What is about to happen to one file.
 struct Intent {
-    LogEntry entry;     ///< as it will be logged; what is not known yet is empty
-    FileStatus status;  ///< the file before anything is done to it
+    LogEntry entry;    ///< as it will be logged; what is not known yet is empty
+    FileStatus status; ///< the file before anything is done to it
     std::vector<std::string> targetFolders; ///< the folders its actions may put it in
 };
 
-/// Where a run writes down what it is about to do and what it has done, so that a crash loses nothing
-/// that can be undone. Called on the run's thread.
+/// Where a run writes down what it is about to do and what it has done, so that a crash loses
+/// nothing that can be undone. Called on the run's thread.
 class RunJournal {
 public:
     virtual ~RunJournal() = default;

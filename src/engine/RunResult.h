@@ -15,9 +15,10 @@ namespace quillon {
 /// The outcome of a batch.
 struct RunResult {
     std::vector<LogEntry> entries; ///< one a file, in the order in which they were handled
-    QSet<QString> seenKeys;        ///< of every file of the batch
-    QStringList waiting;           ///< names of files that wait for the assistant
-    std::optional<Error> stopped;  ///< set when the journal could not be written and the run ended early
+    QSet<QString> seenKeys; ///< of every file of the batch; empty for a folder without an identity
+    QStringList waiting;    ///< names of files that wait for the assistant
+    std::optional<Error>
+        stopped; ///< set when the journal could not be written and the run ended early
 };
 
 /// What one rule would catch in one folder.

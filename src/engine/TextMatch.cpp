@@ -2,7 +2,8 @@
 
 namespace quillon {
 
-TextMatch::TextMatch(MatchOperator op, const QString& value) : op_(op), value_(folded(composed(value))) {
+TextMatch::TextMatch(MatchOperator op, const QString& value)
+    : op_(op), value_(folded(composed(value))) {
     if (op == MatchOperator::contains)
         finder_.setPattern(value_);
     if (op == MatchOperator::matchesRegex)

@@ -19,9 +19,9 @@ public:
 
     /// Unpacks into a private folder, refuses what could reach outside of it (links that leave it,
     /// devices) or exceeds the limits, and publishes the whole as `wantedFolder` or a numbered name
-    /// beside it. Returns the folder. On failure nothing is left behind and the archive is untouched.
-    /// An archive with nothing in it fails with `invalid` and an empty message, and so does one that
-    /// the unpacker refuses without a word.
+    /// beside it. Returns the folder. On failure nothing is left behind and the archive is
+    /// untouched. An archive with nothing in it fails with `invalid` and an empty message, and so
+    /// does one that the unpacker refuses without a word.
     [[nodiscard]] virtual Expected<std::string> unpack(const std::string& archive,
                                                        const std::string& wantedFolder,
                                                        const UnpackLimits& limits) = 0;

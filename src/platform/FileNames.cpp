@@ -1,5 +1,7 @@
 #include "platform/FileNames.h"
 
+#include <cstring>
+
 namespace quillon {
 
 namespace {
@@ -76,11 +78,12 @@ NameParts splitName(std::string_view name) {
 
 std::string_view lastComponent(std::string_view path) {
     path = withoutTrailingSlashes(path);
-    const std::size_t slash = path.rfind('/');
-    if (slash == std::string_view::npos || path.size() == 1) {
+    // Asked of every file of a folder; string_view's own search goes byte by byte.
+    const void* const slash = ::memrchr(path.data(), '/', path.size());
+    if (slash == nullptr || path.size() == 1) {
         return path;
     }
-    return path.substr(slash + 1);
+    return path.substr(std::size_t(static_cast<const char*>(slash) - path.data()) + 1);
 }
 
 std::string_view parentPath(std::string_view path) {

@@ -46,8 +46,9 @@ class FileSystem {
 public:
     virtual ~FileSystem() = default;
 
-    /// Hidden names, pipes, sockets and devices are left out; unreadable subfolders are passed over.
-    /// Fails with notFound, wrongType or permissionDenied when `folder` itself can't be listed.
+    /// Hidden names, pipes, sockets and devices are left out; unreadable subfolders are passed
+    /// over. Fails with notFound, wrongType or permissionDenied when `folder` itself can't be
+    /// listed.
     [[nodiscard]] virtual Expected<Listing> list(const std::string& folder,
                                                  const ListOptions& options) const = 0;
 

@@ -13,12 +13,12 @@ class FileTags {
 public:
     virtual ~FileTags() = default;
 
-    /// Tag names without their colour numbers, in stored order, without repeats. No list is an empty
-    /// one; a list that can't be decoded is `invalid`.
+    /// Tag names without their colour numbers, in stored order, without repeats. No list is an
+    /// empty one; a list that can't be decoded is `invalid`.
     [[nodiscard]] virtual Expected<QStringList> tags(const std::string& path) const = 0;
 
-    /// Adds a tag with its Finder colour number (0 to 7). False when it is there already. A list that
-    /// can't be decoded is left as it is and reported as `invalid`.
+    /// Adds a tag with its Finder colour number (0 to 7). False when it is there already. A list
+    /// that can't be decoded is left as it is and reported as `invalid`.
     [[nodiscard]] virtual Expected<bool> add(const std::string& path, const QString& name,
                                              int colorNumber) = 0;
 

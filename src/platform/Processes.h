@@ -31,8 +31,8 @@ struct ProcessResult {
     [[nodiscard]] bool succeeded() const { return end == End::exited && status == 0; }
 };
 
-/// Child processes, each in a process group of its own, standard input and output on the null device.
-/// Any thread; blocks until the child has ended.
+/// Child processes, each in a process group of its own, standard input and output on the null
+/// device. Any thread; blocks until the child has ended.
 class Processes {
 public:
     virtual ~Processes() = default;

@@ -15,8 +15,8 @@ public:
     /// `unsupported` where that file system has no trash and none can be made.
     [[nodiscard]] virtual Expected<std::string> put(const std::string& path) = 0;
 
-    /// Takes a file back out, to `wanted` or a numbered name beside it, with its record, and returns
-    /// where it lies now.
+    /// Takes a file back out, to `wanted` or a numbered name beside it, with its record, and
+    /// returns where it lies now.
     [[nodiscard]] virtual Expected<std::string> restore(const std::string& trashedPath,
                                                         const std::string& wanted) = 0;
 };

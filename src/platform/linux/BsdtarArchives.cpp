@@ -7,6 +7,8 @@
 #include "platform/linux/SystemError.h"
 #include "platform/linux/UnpackedTree.h"
 
+#include <QStringList>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -2,6 +2,7 @@
 
 #include <plist/plist.h>
 
+#include <span>
 #include <type_traits>
 
 namespace quillon {
