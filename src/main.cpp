@@ -13,7 +13,8 @@ int main(int argc, char** argv) {
                           .out = std::cout,
                           .err = std::cerr,
                           .colored = terminal.output && !noColor,
-                          .showsProgress = terminal.error};
+                          .showsProgress = terminal.error,
+                          .mayContinue = untilAskedToStop()};
     return static_cast<int>(
         runCommandLine({argv + 1, argv + argc}, console, [] { return currentUserFolders(); }));
 }

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <istream>
 #include <ostream>
 
@@ -17,6 +18,8 @@ struct Console {
     std::ostream& err;
     bool colored = false;       ///< `out` shows colours
     bool showsProgress = false; ///< `err` is a terminal
+    /// Asked before each file is touched; false ends the command early. Empty: always.
+    std::function<bool()> mayContinue = {};
 
     /// One sentence on `err`.
     void say(const QString& sentence) const;

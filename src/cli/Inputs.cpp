@@ -65,6 +65,7 @@ Expected<FolderInput> readInput(const FolderOptions& options, const Console& con
         .ready = {},
         .rules = std::move(*rules)};
     input.request.settings.settleTime = std::chrono::duration<double>(options.settleSeconds);
+    input.request.settings.mayContinue = console.mayContinue;
     const QString name = u"The folder %1 can't be read"_s.arg(pathText(options.folder));
     if (!isValidUtf8(input.request.path))
         return failure(ErrorKind::invalid, name + u": its path is not valid UTF-8"_s);

@@ -1,6 +1,7 @@
 #include "cli/Inputs.h"
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
+#include "cli/ProgressBar.h"
 #include "cli/Totals.h"
 #include "cli/Verbs.h"
 #include "store/Sentences.h"
@@ -61,7 +62,13 @@ ExitCode previewCommand(const FolderOptions& options, const Console& console, Se
         console.say(input.error());
         return ExitCode::unreadable;
     }
-    const auto items = services.engine(input->request.settings).preview(input->rules, input->ready);
+    std::vector<PreviewItem> items;
+    {
+        ProgressBar bar(console.err, services.platform().clock, console.showsProgress);
+        items = services.engine(input->request.settings)
+                    .preview(input->rules, input->ready,
+                             [&](std::size_t done, std::size_t total) { bar.update(done, total); });
+    }
     if (options.json)
         printJson(input->ready, items, console.out);
     else

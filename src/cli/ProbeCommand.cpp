@@ -1,6 +1,7 @@
 #include "cli/Inputs.h"
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
+#include "cli/ProgressBar.h"
 #include "cli/Verbs.h"
 #include "store/Sentences.h"
 
@@ -52,8 +53,14 @@ ExitCode probeCommand(const FolderOptions& options, const Console& console, Serv
     }
     const RuleEngine engine = services.engine(input->request.settings);
     std::vector<ProbedRule> probed;
-    for (const Rule& rule : input->rules)
-        probed.push_back({rule.name, engine.probe(rule, input->ready)});
+    {
+        ProgressBar bar(console.err, services.platform().clock, console.showsProgress);
+        const std::size_t count = input->ready.files.size();
+        for (const Rule& rule : input->rules) {
+            bar.update(probed.size() * count, input->rules.size() * count);
+            probed.push_back({rule.name, engine.probe(rule, input->ready)});
+        }
+    }
     if (options.json)
         printJson(probed, console.out);
     else

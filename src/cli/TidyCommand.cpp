@@ -71,11 +71,13 @@ bool sayProblems(const TidyReport& report, const Console& console) {
     if (report.run.stopped)
         console.say(u"The run stopped early, because the journal can't be written: "_s +
                     report.run.stopped->message);
+    if (report.run.interrupted)
+        console.say(u"Stopped on request; the files not named are as they were"_s);
     if (report.unsaved)
         console.say(
             u"The activity log can't be saved (%1); what was done is in the journal, and the "
             "next command takes it in"_s.arg(report.unsaved->message));
-    return report.run.stopped || report.unsaved;
+    return report.run.stopped || report.run.interrupted || report.unsaved;
 }
 
 } // namespace

@@ -75,8 +75,8 @@ Outcomes undoBatch(const std::string& given, const std::vector<LogEntry>& logs, 
     return outcomes;
 }
 
-Outcomes undoLast(const std::vector<LogEntry>& logs, Undo& undo) {
-    const auto entry = newestUndoable(logs);
+Outcomes undoLast(Undo& undo) {
+    const auto entry = undo.newest();
     if (!entry)
         return std::unexpected(Refusal{ExitCode::someFailed, u"There is nothing to undo"_s});
     return std::vector{undo.entry(*entry)};
@@ -136,7 +136,7 @@ ExitCode undoCommand(const UndoOptions& options, const Console& console, Service
 
     PersistedState& state = (*store)->state();
     Undo undo(services.platform().fileSystem, services.platform().trash, state);
-    const Outcomes outcomes = options.last            ? undoLast(state.logs, undo)
+    const Outcomes outcomes = options.last            ? undoLast(undo)
                               : options.batch.empty() ? undoEntry(options.entry, state.logs, undo)
                                                       : undoBatch(options.batch, state.logs, undo);
     if (!outcomes) {

@@ -8,25 +8,27 @@ namespace {
 // Enough that one sync of the journal is nothing beside the work it covers.
 constexpr std::size_t fullGroup = 8192;
 
-bool runsForeignCode(const Rule& rule) {
-    return std::ranges::any_of(rule.actions, [](const RuleAction& action) {
-        return action.type == ActionType::runScript || action.type == ActionType::runShortcut;
-    });
-}
-
 bool isUnchanged(const FileStatus& now, const FileStatus& listed) {
     return now.isSameFileAs(listed) && now.size == listed.size && now.modified == listed.modified;
+}
+
+void addPhrase(LogEntry& entry, const QString& phrase) {
+    if (!entry.actionSummary.isEmpty())
+        entry.actionSummary += QStringLiteral(", ");
+    entry.actionSummary += phrase;
+}
+
+void fail(LogEntry& entry, const QString& why) {
+    addPhrase(entry, why);
+    entry.isError = true;
 }
 
 /// Takes what one action did into the file's entry and says whether the file is still there for the
 /// next one.
 bool absorb(const ActionResult& result, ActionType type, LogEntry& entry) {
     entry.isError = entry.isError || !result.succeeded;
-    for (const QString& phrase : result.phrases) {
-        if (!entry.actionSummary.isEmpty())
-            entry.actionSummary += QStringLiteral(", ");
-        entry.actionSummary += phrase;
-    }
+    for (const QString& phrase : result.phrases)
+        addPhrase(entry, phrase);
     if (!result.trashedPath.empty())
         entry.trashedPath = QString::fromUtf8(result.trashedPath);
     // Undo takes the file itself back: once it has moved, no copy stands for it.
@@ -71,8 +73,11 @@ RunResult BatchRun::run() {
                 return std::move(result_);
             }
         for (std::size_t i = 0; i < group.taken.size(); ++i) {
+            result_.interrupted = setup_.settings.mayContinue && !setup_.settings.mayContinue();
+            if (result_.interrupted)
+                return std::move(result_);
             act(group.taken[i], group.intents[i].entry);
-            report(start + i);
+            report(std::size_t(group.taken[i].file - items_.files.data()) + 1);
         }
         report(group.end);
         start = group.end;
@@ -101,11 +106,6 @@ BatchRun::Group BatchRun::take(std::size_t start) {
         const CompiledRule& rule = rules_[*matches[i].rule];
         group.taken.push_back(taken(*candidates[i], rule));
         group.intents.push_back(intent(group.taken.back()));
-        // A script may change any file of the folder, so what comes after it is matched anew.
-        if (runsForeignCode(rule.rule())) {
-            group.end = start + std::size_t(candidates[i] - files.data()) + 1;
-            break;
-        }
     }
     return group;
 }
@@ -172,8 +172,8 @@ void BatchRun::act(Taken& taken, LogEntry& entry) {
     FileSystem& fileSystem = setup_.platform.fileSystem;
     ActionContext& context = taken.context;
 
-    // Whatever was decided holds for the file as it was listed; one that has changed since waits
-    // for the next run.
+    // Whatever was decided holds for the file as it was listed; one that has changed since, perhaps
+    // by another file's script, waits for the next run.
     Expected<FileStatus> status = fileSystem.status(context.path);
     if (!status || !isUnchanged(*status, taken.file->status))
         return;
@@ -192,8 +192,11 @@ void BatchRun::act(Taken& taken, LogEntry& entry) {
             context.path = result.path;
         if (&action != &taken.rule->rule().actions.back())
             status = fileSystem.status(context.path);
-        if (!status)
+        if (!status) {
+            if (status.error().kind != ErrorKind::notFound)
+                fail(entry, status.error().message);
             break;
+        }
     }
     if (!entry.actionSummary.isEmpty())
         result_.entries.push_back(std::move(entry));

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 
 namespace quillon {
 
 struct EngineSettings {
-    std::chrono::duration<double> settleTime{
-        3.0}; ///< a file changed less than this ago is deferred
+    /// A file changed less than this ago is deferred.
+    std::chrono::duration<double> settleTime{3.0};
     std::chrono::milliseconds scriptTimeout{std::chrono::minutes(10)};
+    /// Asked before each file and while a script runs; false ends the run there. Empty: always.
+    std::function<bool()> mayContinue = {};
 };
 
 } // namespace quillon

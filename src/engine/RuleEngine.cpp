@@ -6,6 +6,8 @@
 #include "platform/CloudFiles.h"
 #include "platform/FileNames.h"
 
+#include <QHash>
+
 #include <array>
 
 namespace quillon {
@@ -42,6 +44,48 @@ std::vector<const ListedFile*> pointers(const std::vector<ListedFile>& files) {
 QString fileName(const ListedFile& file) {
     return QString::fromUtf8(lastComponent(file.path));
 }
+
+// Files between two reports, enough for every thread to have its share.
+constexpr std::size_t progressStep = 32'768;
+
+/// Says what rules would do to files, one after the other.
+class Describer {
+public:
+    Describer(const Platform& platform, FileJudge& judge, const EngineSettings& settings,
+              const std::string& folder)
+        : platform_(platform)
+        , judge_(judge)
+        , settings_(settings)
+        , folder_(folder)
+        , kinds_(platform.contentTypes) {}
+
+    PreviewItem item(const ListedFile& file, const CompiledRule& rule) {
+        FileFacts facts(platform_, kinds_, folder_, file);
+        const ActionContext context{.platform = platform_,
+                                    .kinds = kinds_,
+                                    .dates = dates_,
+                                    .settings = settings_,
+                                    .path = facts.path(),
+                                    .status = file.status,
+                                    .counter = ++counters_[rule.rule().id],
+                                    .captures = rule.captures(facts),
+                                    .watchedFolder = folder_,
+                                    .smartName = rule.smartName(judge_, facts)};
+        PreviewItem item{.fileName = fileName(file), .ruleName = rule.rule().name, .actions = {}};
+        for (const RuleAction& action : rule.rule().actions)
+            item.actions.append(describeAction(action, context));
+        return item;
+    }
+
+private:
+    const Platform& platform_;
+    FileJudge& judge_;
+    const EngineSettings& settings_;
+    const std::string& folder_;
+    KindClassifier kinds_;
+    DateFormats dates_;
+    QHash<QUuid, unsigned> counters_;
+};
 
 } // namespace
 
@@ -111,37 +155,26 @@ MatchProbe RuleEngine::probe(const Rule& rule, const ReadyFiles& ready) const {
 }
 
 std::vector<PreviewItem> RuleEngine::preview(const std::vector<Rule>& rules,
-                                             const ReadyFiles& ready) const {
+                                             const ReadyFiles& ready,
+                                             const Progress& progress) const {
     std::vector<CompiledRule> enabled;
     for (const Rule& rule : rules)
         if (rule.isEnabled)
             enabled.emplace_back(rule);
-    const std::vector<FirstMatch> matches = firstMatches(
-        {platform_, judge_, enabled, ready.folder, platform_.clock.now()}, pointers(ready.files));
+    const MatchSetup matching{platform_, judge_, enabled, ready.folder, platform_.clock.now()};
+    const std::vector<const ListedFile*> files = pointers(ready.files);
 
-    KindClassifier kinds(platform_.contentTypes);
-    DateFormats dates;
-    std::vector<unsigned> counters(enabled.size(), 0);
+    Describer describer(platform_, judge_, settings_, ready.folder);
     std::vector<PreviewItem> items;
-    for (std::size_t i = 0; i < matches.size(); ++i) {
-        if (!matches[i].rule)
-            continue;
-        const CompiledRule& rule = enabled[*matches[i].rule];
-        const ListedFile& file = ready.files[i];
-        FileFacts facts(platform_, kinds, ready.folder, file);
-        const ActionContext context{.platform = platform_,
-                                    .kinds = kinds,
-                                    .dates = dates,
-                                    .settings = settings_,
-                                    .path = facts.path(),
-                                    .status = file.status,
-                                    .counter = ++counters[*matches[i].rule],
-                                    .captures = rule.captures(facts),
-                                    .watchedFolder = ready.folder};
-        PreviewItem item{.fileName = fileName(file), .ruleName = rule.rule().name, .actions = {}};
-        for (const RuleAction& action : rule.rule().actions)
-            item.actions.append(describeAction(action, context));
-        items.push_back(std::move(item));
+    for (std::size_t start = 0; start < files.size(); start += progressStep) {
+        const auto part =
+            std::span(files).subspan(start, std::min(progressStep, files.size() - start));
+        const std::vector<FirstMatch> matches = firstMatches(matching, part);
+        for (std::size_t i = 0; i < matches.size(); ++i)
+            if (matches[i].rule)
+                items.push_back(describer.item(*part[i], enabled[*matches[i].rule]));
+        if (progress)
+            progress(start + part.size(), files.size());
     }
     return items;
 }

@@ -45,7 +45,8 @@ public:
 
     [[nodiscard]] MatchProbe probe(const Rule& rule, const ReadyFiles& ready) const;
     [[nodiscard]] std::vector<PreviewItem> preview(const std::vector<Rule>& rules,
-                                                   const ReadyFiles& ready) const;
+                                                   const ReadyFiles& ready,
+                                                   const Progress& progress = {}) const;
 
     /// Applies to each file the first enabled rule that matches. Files whose key is in `skip` are
     /// passed over; `batchID` is stamped on the entries.

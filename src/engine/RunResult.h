@@ -15,10 +15,12 @@ namespace quillon {
 /// The outcome of a batch.
 struct RunResult {
     std::vector<LogEntry> entries; ///< one a file, in the order in which they were handled
-    QSet<QString> seenKeys; ///< of every file of the batch; empty for a folder without an identity
-    QStringList waiting;    ///< names of files that wait for the assistant
-    std::optional<Error>
-        stopped; ///< set when the journal could not be written and the run ended early
+    /// Of every file of the batch; empty for a folder without an identity.
+    QSet<QString> seenKeys;
+    QStringList waiting;      ///< names of files that wait for the assistant
+    bool interrupted = false; ///< EngineSettings::mayContinue ended the run early
+    /// Set when the journal could not be written and the run ended early.
+    std::optional<Error> stopped;
 };
 
 /// What one rule would catch in one folder.

@@ -2,12 +2,18 @@
 
 #include "platform/linux/LinuxUserFolders.h"
 #include "platform/linux/StandardStreams.h"
+#include "platform/linux/StopSignals.h"
 
 namespace quillon {
 
 TerminalUse openTerminal() {
     const StandardStreams streams = openStandardStreams();
     return {.output = streams.outputIsTerminal, .error = streams.errorIsTerminal};
+}
+
+std::function<bool()> untilAskedToStop() {
+    noteStopSignals();
+    return [] { return !wasAskedToStop(); };
 }
 
 UserFolders currentUserFolders() {

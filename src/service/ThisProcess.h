@@ -2,6 +2,7 @@
 
 #include "platform/UserFolders.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -14,6 +15,10 @@ struct TerminalUse {
 
 /// To be called first thing in main: makes sure that the three standard streams are open.
 [[nodiscard]] TerminalUse openTerminal();
+
+/// Makes this process note a request to end instead of ending at once, and returns what is false
+/// from then on. To be called once, from main. A second request ends the process as usual.
+[[nodiscard]] std::function<bool()> untilAskedToStop();
 
 [[nodiscard]] UserFolders currentUserFolders();
 

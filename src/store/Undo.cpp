@@ -19,15 +19,25 @@ QString notFound(const std::string& path, bool inTrash) {
                    : u"nothing is at %1 any more"_s.arg(pathText(path));
 }
 
+/// Where the file of an entry that can be undone should be now.
+std::string placeOf(const LogEntry& entry) {
+    return (entry.currentPath ? *entry.currentPath : *entry.trashedPath).toStdString();
+}
+
 } // namespace
 
 bool canBeUndone(const LogEntry& entry) {
     return entry.canUndo() && (entry.currentPath || entry.trashedPath);
 }
 
-std::optional<LogEntry> newestUndoable(const std::vector<LogEntry>& logs) {
-    const auto found = std::ranges::find_if(logs, canBeUndone);
-    return found == logs.end() ? std::nullopt : std::optional(*found);
+std::optional<LogEntry> Undo::newest() const {
+    const auto stands = [this](const LogEntry& entry) {
+        return canBeUndone(entry) && fileSystem_.status(placeOf(entry)).has_value();
+    };
+    auto found = std::ranges::find_if(state_.logs, stands);
+    if (found == state_.logs.end())
+        found = std::ranges::find_if(state_.logs, canBeUndone);
+    return found == state_.logs.end() ? std::nullopt : std::optional(*found);
 }
 
 UndoOutcome Undo::entry(const LogEntry& entry) {
@@ -42,7 +52,7 @@ Expected<std::string> Undo::putBack(const LogEntry& entry, QString& note) {
     if (!canBeUndone(entry))
         return failure(ErrorKind::invalid, u"this entry is nothing that can be undone"_s);
     const bool inTrash = !entry.currentPath.has_value();
-    const std::string current = (inTrash ? *entry.trashedPath : *entry.currentPath).toStdString();
+    const std::string current = placeOf(entry);
     const std::string original = entry.originalPath->toStdString();
 
     const Expected<FileStatus> status = fileSystem_.status(current);

@@ -25,6 +25,10 @@ public:
 
     [[nodiscard]] UndoOutcome entry(const LogEntry& entry);
 
+    /// The newest entry that can be undone: one whose file is where the entry says, if there is
+    /// any.
+    [[nodiscard]] std::optional<LogEntry> newest() const;
+
     /// The batch's undoable entries, in log order, except that a file whose old place is still
     /// taken by another file of the batch waits for that one. Empty when there is nothing to undo.
     [[nodiscard]] std::vector<UndoOutcome> batch(const QUuid& batchID);
@@ -38,8 +42,5 @@ private:
 };
 
 [[nodiscard]] bool canBeUndone(const LogEntry& entry);
-
-/// The newest entry that can be undone.
-[[nodiscard]] std::optional<LogEntry> newestUndoable(const std::vector<LogEntry>& logs);
 
 } // namespace quillon

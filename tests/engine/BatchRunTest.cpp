@@ -48,9 +48,10 @@ protected:
     LookingJudge judge_;
     NoJournal journal_;
     QSet<QString> skip_;
+    EngineSettings settings_{.settleTime = {}};
 
     RunResult run(const std::vector<Rule>& rules) {
-        const RuleEngine engine(machine_.platform, judge_, {.settleTime = {}});
+        const RuleEngine engine(machine_.platform, judge_, settings_);
         WatchedFolder folder;
         folder.path = QString::fromStdString(machine_.work());
         const auto ready = engine.readyFiles(folder);
@@ -136,6 +137,27 @@ TEST_F(BatchRunTest, saysWhereTheFileItselfWent) {
         std::filesystem::remove_all(machine_.work());
         machine_.makeFolder("");
     }
+}
+
+TEST_F(BatchRunTest, leavesAloneWhatAScriptHasChanged) {
+    for (const char* name : {"a.txt", "b.txt", "c.txt"})
+        machine_.write(name, "");
+    RuleAction script = makeAction(ActionType::runScript);
+    script.scriptCommand = u"rm b.txt; echo more >> c.txt"_s;
+    EXPECT_EQ(texts({ruleFor(u"clear"_s, u"a"_s, {script}),
+                     ruleFor(u"rest"_s, u"txt"_s, {makeAction(ActionType::trash)})}),
+              std::set<QString>{u"a.txt: clear: ran script"_s});
+    EXPECT_EQ(machine_.tree(), (std::set<std::string>{"a.txt", "c.txt"}));
+}
+
+TEST_F(BatchRunTest, endsBetweenTwoFilesWhenAsked) {
+    for (const char* name : {"a.txt", "b.txt", "c.txt"})
+        machine_.write(name, "");
+    settings_.mayContinue = [this] { return machine_.tree().contains("b.txt"); };
+    const RunResult result = run({ruleFor(u"r"_s, u""_s, {makeAction(ActionType::trash)})});
+    EXPECT_TRUE(result.interrupted);
+    EXPECT_EQ(result.entries.size(), 2U);
+    EXPECT_EQ(machine_.tree(), std::set<std::string>{"c.txt"});
 }
 
 TEST_F(BatchRunTest, touchesNothingWithoutItsJournal) {

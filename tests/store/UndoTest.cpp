@@ -91,6 +91,14 @@ TEST_F(UndoTest, saysThatAFileHasChangedSince) {
     EXPECT_EQ(undo_.entry(entry).note, u"it has been changed or replaced since"_s);
 }
 
+TEST_F(UndoTest, takesTheNewestWhoseFileIsStillThere) {
+    const LogEntry gone = logMove("a.txt", "out/a.txt");
+    const LogEntry there = logMove("b.txt", "out/b.txt");
+    EXPECT_EQ(undo_.newest()->id, gone.id); // to say what is wrong with it
+    machine_.write("out/b.txt", "");
+    EXPECT_EQ(undo_.newest()->id, there.id);
+}
+
 TEST_F(UndoTest, refusesWhatIsNoMove) {
     const struct {
         void (*spoil)(LogEntry& entry);
@@ -107,7 +115,7 @@ TEST_F(UndoTest, refusesWhatIsNoMove) {
         state_.logs = {entry};
         EXPECT_FALSE(undo_.entry(entry).restored);
         EXPECT_TRUE(undo_.batch(batch_).empty());
-        EXPECT_FALSE(newestUndoable(state_.logs));
+        EXPECT_FALSE(undo_.newest());
         EXPECT_EQ(machine_.contents("out/a.txt"), "text");
     }
 }

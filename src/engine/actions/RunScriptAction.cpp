@@ -12,7 +12,7 @@ ActionResult performScript(const RuleAction& action, const ActionContext& contex
         .environment = {{"FILE", context.path}},
         .workingFolder = std::string(parentPath(context.path)),
         .timeout = context.settings.scriptTimeout,
-        .mayContinue = {},
+        .mayContinue = context.settings.mayContinue,
     };
     const auto problem = childFailure(context.platform.processes.run(request), request.timeout);
     if (!problem)

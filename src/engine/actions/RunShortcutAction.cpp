@@ -24,7 +24,7 @@ QString runShortcut(const QString& name, const ActionContext& context) {
         .environment = {},
         .workingFolder = std::string(parentPath(context.path)),
         .timeout = context.settings.scriptTimeout,
-        .mayContinue = {},
+        .mayContinue = context.settings.mayContinue,
     };
     const auto problem = childFailure(context.platform.processes.run(request), request.timeout);
     if (problem && problem->isEmpty())
