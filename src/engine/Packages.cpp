@@ -19,16 +19,12 @@ constexpr auto packageExtensions = std::to_array<std::string_view>({
     "xcodeproj",    "xcworkspace",   "xpc",
 });
 
-char lowered(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 } // namespace
 
 bool isPackage(std::string_view name) {
     const std::string_view extension = splitName(name).extension;
     return std::ranges::any_of(packageExtensions, [&](std::string_view known) {
-        return std::ranges::equal(extension, known, {}, lowered);
+        return isSameIgnoringCase(extension, known);
     });
 }
 

@@ -20,9 +20,7 @@ constexpr std::array<std::string_view, 5> settlingExtensions{"crdownload", "down
 bool hasSettlingExtension(std::string_view path) {
     const std::string_view extension = splitName(lastComponent(path)).extension;
     return std::ranges::any_of(settlingExtensions, [&](std::string_view settling) {
-        return std::ranges::equal(extension, settling, {}, [](char c) {
-            return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
-        });
+        return isSameIgnoringCase(extension, settling);
     });
 }
 

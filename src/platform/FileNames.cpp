@@ -1,10 +1,15 @@
 #include "platform/FileNames.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace quillon {
 
 namespace {
+
+char lowered(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
 
 bool isContinuation(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
@@ -113,6 +118,10 @@ std::string fittedName(std::string_view stem, std::string_view extension, std::s
 std::string numberedName(std::string_view name, unsigned number, std::size_t limit) {
     const NameParts parts = splitName(name);
     return fitted(parts.stem, " " + std::to_string(number), parts.extension, limit);
+}
+
+bool isSameIgnoringCase(std::string_view one, std::string_view other) {
+    return std::ranges::equal(one, other, {}, lowered, lowered);
 }
 
 bool isValidUtf8(std::string_view bytes) {

@@ -32,6 +32,9 @@ struct NameParts {
 [[nodiscard]] std::string numberedName(std::string_view name, unsigned number,
                                        std::size_t limit = maxNameBytes);
 
+/// Whether two texts differ at most in the case of ASCII letters.
+[[nodiscard]] bool isSameIgnoringCase(std::string_view one, std::string_view other);
+
 /// Strict UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
 [[nodiscard]] bool isValidUtf8(std::string_view bytes);
 
