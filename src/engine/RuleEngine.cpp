@@ -88,7 +88,7 @@ private:
 } // namespace
 
 RuleEngine::RuleEngine(const Platform& platform, FileJudge& judge, EngineSettings settings)
-    : platform_(platform), judge_(judge), settings_(settings) {}
+    : platform_(platform), judge_(judge), settings_(std::move(settings)) {}
 
 Expected<Listing> RuleEngine::files(const WatchedFolder& folder) const {
     const std::string path = folderPath(folder);
@@ -122,13 +122,13 @@ Expected<ReadyFiles> RuleEngine::readyFiles(const WatchedFolder& folder) const {
 }
 
 std::size_t RuleEngine::onlineOnlyCount(const WatchedFolder& folder) const {
-    const std::string path = folderPath(folder);
-    const auto listing =
-        platform_.fileSystem.list(path, {.recursive = folder.isRecursive, .isPackage = isPackage});
+    WatchedFolder whole = folder;
+    whole.skipOnlineOnly = false;
+    const auto listing = files(whole);
     if (!listing)
         return 0;
     return std::size_t(std::ranges::count_if(listing->files, [&](const ListedFile& file) {
-        return platform_.cloudFiles.isOnlineOnly(joinPath(path, file.path));
+        return platform_.cloudFiles.isOnlineOnly(joinPath(folderPath(folder), file.path));
     }));
 }
 
