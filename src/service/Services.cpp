@@ -73,7 +73,7 @@ Storage& Services::storage() {
 }
 
 RuleEngine Services::engine(EngineSettings settings) {
-    return RuleEngine(machine_->platform, machine_->judge, settings);
+    return RuleEngine(machine_->platform, machine_->judge, std::move(settings));
 }
 
 StoreSession::Services Services::storeServices() {

@@ -27,7 +27,7 @@ void noteStopSignals() {
         }
         struct sigaction action = {};
         action.sa_handler = note;
-        action.sa_flags = SA_RESTART | SA_RESETHAND;
+        action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
         // Refused only for signals that can't be caught.
         (void)::sigaction(signal, &action, nullptr);
     }
