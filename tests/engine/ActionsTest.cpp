@@ -125,13 +125,15 @@ TEST(Actions, GiveTheAssistantsName) {
               QStringList{u"renamed to 2026-10-14 Amazon £42.50.pdf"_qs});
 }
 
-// One run over all files below the folder, in order of their names; returns the texts.
-QStringList runOverAll(ActionBench& bench, const std::vector<RuleAction>& actions) {
+// One run over all files below the folder, or over what lies in the folder itself; returns the
+// texts.
+QStringList runOverAll(ActionBench& bench, const std::vector<RuleAction>& actions,
+                       bool isRecursive = true) {
     QStringList texts;
-    for (const std::string& name : bench.machine.tree()) {
-        if (name.ends_with('/'))
-            continue;
-        ActionContext context = bench.contextOf(name);
+    const auto listing = bench.machine.platform.fileSystem.list(
+        bench.machine.work(), {.recursive = isRecursive, .isPackage = nullptr});
+    for (const ListedFile& file : listing.value().files) {
+        ActionContext context = bench.contextOf(file.path);
         for (const RuleAction& action : actions) {
             const ActionResult result = performAction(action, context);
             texts += result.phrases;
@@ -159,6 +161,19 @@ TEST(Actions, AreHarmlessTheSecondTime) {
         EXPECT_GE(runOverAll(bench, rules[i]).size(), 6);
         const Tree once = bench.machine.tree();
         EXPECT_EQ(runOverAll(bench, rules[i]), QStringList());
+        EXPECT_EQ(bench.machine.tree(), once);
+    }
+}
+
+TEST(Actions, SortFoldersOnceAndNeverTheirOwn) {
+    for (const SortStrategy strategy : allCases<SortStrategy>()) {
+        SCOPED_TRACE(rawValue(strategy).toStdString());
+        ActionBench bench;
+        for (const char* name : {"a.txt", "a.groß", "b.png", "c.", "Trip/a.txt", "Old.d/b.txt"})
+            bench.machine.write(name, name);
+        EXPECT_EQ(runOverAll(bench, {sortBy(strategy)}, false).size(), 6);
+        const Tree once = bench.machine.tree();
+        EXPECT_EQ(runOverAll(bench, {sortBy(strategy)}, false), QStringList());
         EXPECT_EQ(bench.machine.tree(), once);
     }
 }

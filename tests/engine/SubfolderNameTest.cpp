@@ -38,6 +38,7 @@ TEST(SubfolderName, FollowsTheStrategy) {
         {SortStrategy::byExtension, "README", regular, "No Extension"},
         {SortStrategy::byExtension, "a. ", regular, "No Extension"},
         {SortStrategy::byExtension, "a.b\nc", regular, "B C"},
+        {SortStrategy::byExtension, "a.txt \n", regular, "TXT"},
         {SortStrategy::byExtension, "a." + std::string(253, 'x'), regular, std::string(253, 'X')},
     };
     for (const Case& c : cases) {

@@ -27,16 +27,26 @@ bool liesIn(std::string_view name, const ActionContext& context) {
     return false;
 }
 
+/// The folder to put the file in; none when it is where sorting wants it.
+std::optional<std::string> targetFolder(const RuleAction& action, const ActionContext& context) {
+    const bool isSubfolder = context.status.type == FileType::directory &&
+                             isSubfolderName(action.sortBy, lastComponent(context.path));
+    std::string folder = sortFolder(action, context);
+    if (isSubfolder || liesIn(lastComponent(folder), context))
+        return std::nullopt;
+    return folder;
+}
+
 } // namespace
 
 ActionResult performSort(const RuleAction& action, const ActionContext& context) {
-    const std::string folder = sortFolder(action, context);
-    if (liesIn(lastComponent(folder), context))
+    const std::optional<std::string> folder = targetFolder(action, context);
+    if (!folder)
         return nothingHappened(context);
-    const Expected<Placement> placed = placeInto(context, folder, Transfer::move);
+    const Expected<Placement> placed = placeInto(context, *folder, Transfer::move);
     if (!placed)
         return failed(context, QStringLiteral("sort failed: ") + placed.error().message);
-    return moved(context, *placed, QStringLiteral("sorted into ") + nameOf(folder));
+    return moved(context, *placed, QStringLiteral("sorted into ") + nameOf(*folder));
 }
 
 QString describeSort(const RuleAction& action, const ActionContext& context) {
@@ -44,10 +54,8 @@ QString describeSort(const RuleAction& action, const ActionContext& context) {
 }
 
 std::vector<std::string> sortTargets(const RuleAction& action, const ActionContext& context) {
-    const std::string folder = sortFolder(action, context);
-    if (liesIn(lastComponent(folder), context))
-        return {};
-    return {folder};
+    const std::optional<std::string> folder = targetFolder(action, context);
+    return folder ? std::vector{*folder} : std::vector<std::string>{};
 }
 
 } // namespace quillon
