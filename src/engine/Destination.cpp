@@ -1,6 +1,25 @@
 #include "engine/Destination.h"
 
+#include "platform/FileNames.h"
+
+#include <ranges>
+
 namespace quillon {
+
+namespace {
+
+/// Without "." and doubled slashes. ".." stays: what it leads to after a link, only the disk knows.
+std::string withoutIdleSteps(std::string_view path) {
+    std::string kept = "/";
+    for (const auto step : path | std::views::split('/')) {
+        const std::string_view name(step.begin(), step.end());
+        if (!name.empty() && name != ".")
+            kept = joinPath(kept, name);
+    }
+    return kept;
+}
+
+} // namespace
 
 Expected<std::string> destinationFolder(const std::optional<QString>& destination,
                                         const UserFolders& folders) {
@@ -15,9 +34,7 @@ Expected<std::string> destinationFolder(const std::optional<QString>& destinatio
         path.replace(0, 1, folders.home);
     if (!path.starts_with('/'))
         return failure(ErrorKind::invalid, QStringLiteral("“%1” is not a full path").arg(text));
-    while (path.size() > 1 && path.ends_with('/'))
-        path.pop_back();
-    return path;
+    return withoutIdleSteps(path);
 }
 
 } // namespace quillon

@@ -10,9 +10,9 @@
 
 namespace quillon {
 
-/// The folder that a rule names, absolute, without a trailing slash; "~" and "~/…" are the user's
-/// home folder. Fails with `invalid` and a clause for people when none is set or it is not
-/// absolute: nothing is ever looked up in the folder that the process happens to run in.
+/// The folder that a rule names, absolute, without ".", doubled or trailing slashes; "~" and "~/…"
+/// are the user's home folder. Fails with `invalid` and a clause for people when none is set or it
+/// is not absolute: nothing is ever looked up in the folder that the process happens to run in.
 [[nodiscard]] Expected<std::string> destinationFolder(const std::optional<QString>& destination,
                                                       const UserFolders& folders);
 

@@ -35,6 +35,9 @@ TEST(Actions, LogWhatTheyDid) {
     const Case cases[] = {
         {moveTo(u"~/work/In"_qs), "a.txt", u"moved to In"_qs, with({"a.txt"}, {"In/a 3.txt"})},
         {moveTo(u"~/work/In///"_qs), "b.txt", u"moved to In"_qs, with({"b.txt"}, {"In/b.txt"})},
+        {moveTo(u"~/./work//In/."_qs), "b.txt", u"moved to In"_qs, with({"b.txt"}, {"In/b.txt"})},
+        {moveTo(u"~/work/In/.."_qs), "In/a 2.txt", u"moved to work"_qs,
+         with({"In/a 2.txt"}, {"a 2.txt"})},
         {moveTo(absent), "a.txt", u"moved to Deep"_qs,
          with({"a.txt"}, {"New/", "New/Deep/", "New/Deep/a.txt"})},
         {moveTo(u"~/work"_qs), "a.txt", {}, before},
@@ -215,6 +218,8 @@ TEST(Actions, AreDescribedForThePreview) {
         {moveTo(u"~/Pictures/"_qs), u"Move to Pictures"_qs},
         {makeAction(move), u"Move to (no folder set)"_qs},
         {moveTo(u"/srv/Backup"_qs, copy), u"Copy to Backup"_qs},
+        {moveTo(u"/srv/Backup/./"_qs, copy), u"Copy to Backup"_qs},
+        {moveTo(u"/srv/Absent/x/.."_qs, copy), u"Copy to Absent"_qs},
         {moveTo(u""_qs, copy), u"Copy to (no folder set)"_qs},
         {renameBy(u"{counter:2}/{name}"_qs), u"Rename → 01-a.b.png"_qs},
         {renameBy({}), u"Rename → a.b.png"_qs},

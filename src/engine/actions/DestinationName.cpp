@@ -2,6 +2,10 @@
 
 #include "engine/Destination.h"
 #include "engine/actions/Outcome.h"
+#include "platform/FileNames.h"
+#include "platform/FileSystem.h"
+
+#include <filesystem>
 
 namespace quillon {
 
@@ -10,7 +14,13 @@ QString destinationName(const RuleAction& action, const ActionContext& context) 
     if (text.isEmpty())
         return QStringLiteral("(no folder set)");
     const auto folder = destinationFolder(action.destination, context.platform.folders);
-    return nameOf(folder ? *folder : text.toStdString());
+    if (!folder)
+        return nameOf(text.toStdString());
+    if (lastComponent(*folder) != "..")
+        return nameOf(*folder);
+    // A folder that is not there yet is read as it is written.
+    const std::filesystem::path resolved = context.platform.fileSystem.resolved(*folder);
+    return nameOf(resolved.lexically_normal().string());
 }
 
 } // namespace quillon
