@@ -32,7 +32,7 @@ protected:
         return folder.path("out/" + name);
     }
 
-    Expected<std::string> unpack(const std::string& archive, const UnpackLimits& limits = {}) {
+    Expected<Unpacked> unpack(const std::string& archive, const UnpackLimits& limits = {}) {
         return archives.unpack(archive, folder.path("out/unpacked"), limits);
     }
 
@@ -63,10 +63,10 @@ TEST_F(ArchivesTest, unpacksWhateverTheNameAndFormat) {
         {"host:b@c '$A'.7z", "bsdtar -a -cf \"$A\" d"},
         {"é.tar.xz", "bsdtar -cJf \"$A\" d"}};
     for (const auto& [name, script] : rows) {
-        const Expected<std::string> done = unpack(make(name, tree + script + "; rm -r d"));
+        const Expected<Unpacked> done = unpack(make(name, tree + script + "; rm -r d"));
         ASSERT_TRUE(done) << name << done.error().message.toStdString();
         EXPECT_EQ(unpacked(), expected) << name;
-        std::filesystem::remove_all(*done);
+        std::filesystem::remove_all(done->folder);
     }
 }
 
@@ -74,13 +74,36 @@ TEST_F(ArchivesTest, takesAFreeNameAndNeverAnothersRights) {
     folder.write("out/unpacked", "in the way");
     const std::string archive =
         make("a.tar", "mkdir d; echo 1 > d/s; chmod 6755 d/s; chmod 0500 d; bsdtar -cf \"$A\" d");
-    EXPECT_EQ(unpack(archive), folder.path("out/unpacked 2"));
+    EXPECT_EQ(unpack(archive).value().folder, folder.path("out/unpacked 2"));
     EXPECT_EQ(folder.read("out/unpacked"), "in the way");
     struct stat found = {};
     ASSERT_EQ(::stat(folder.path("out/unpacked 2/d/s").c_str(), &found), 0);
     EXPECT_EQ(found.st_mode & 07777, 0755U);
     ASSERT_EQ(::stat(folder.path("out/unpacked 2/d").c_str(), &found), 0);
     EXPECT_EQ(found.st_mode & 0700, 0700U);
+}
+
+TEST_F(ArchivesTest, findsWhatItUnpackedEarlier) {
+    const std::string unreadable = "#mtree\\nd/u type=file mode=0 contents=u\\n";
+    const std::string archive =
+        make("a.tar", "mkdir -p d/e; echo 1 > d/s; ln -s s d/l; echo 2 > u; printf '" + unreadable +
+                          "' > list; bsdtar -cf \"$A\" d @list");
+    const auto expectUnpackedOnceTo = [&](const std::string& name) {
+        for (const bool isFirst : {true, false}) {
+            const Expected<Unpacked> done = unpack(archive);
+            ASSERT_TRUE(done) << done.error().message.toStdString();
+            EXPECT_EQ(done->folder, folder.path(name));
+            EXPECT_EQ(done->done, isFirst);
+        }
+    };
+    expectUnpackedOnceTo("out/unpacked");
+    // Who can't read it can't tell that it is the same.
+    struct stat found = {};
+    ASSERT_EQ(::stat(folder.path("out/unpacked/d/u").c_str(), &found), 0);
+    EXPECT_EQ(found.st_mode & 07777, 0400U);
+    folder.write("out/unpacked/d/s", "3\n");
+    expectUnpackedOnceTo("out/unpacked 2");
+    EXPECT_EQ(folder.read("out/unpacked/d/s"), "3\n");
 }
 
 TEST_F(ArchivesTest, refusesWhatIsUnsafeOrBroken) {
@@ -119,7 +142,7 @@ TEST_F(ArchivesTest, refusesWhatIsUnsafeOrBroken) {
     for (const auto& row : rows) {
         const std::string archive = make(row.name, row.script);
         const Tree before = folder.everything();
-        const Expected<std::string> done = unpack(archive, {.entries = 5, .bytes = 1'000'000});
+        const Expected<Unpacked> done = unpack(archive, {.entries = 5, .bytes = 1'000'000});
         ASSERT_FALSE(done) << row.name;
         EXPECT_EQ(done.error().kind, ErrorKind::invalid) << row.name;
         const std::string message = done.error().message.toStdString();

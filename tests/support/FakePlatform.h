@@ -132,8 +132,8 @@ public:
 
 class NoArchives : public Archives {
 public:
-    Expected<std::string> unpack(const std::string&, const std::string&,
-                                 const UnpackLimits&) override {
+    Expected<Unpacked> unpack(const std::string&, const std::string&,
+                              const UnpackLimits&) override {
         return failure(ErrorKind::unsupported, QStringLiteral("no archives here"));
     }
 };

@@ -4,6 +4,7 @@
 #include "platform/linux/Descriptor.h"
 #include "platform/linux/FreeName.h"
 #include "platform/linux/Removal.h"
+#include "platform/linux/SameTree.h"
 #include "platform/linux/SystemError.h"
 #include "platform/linux/UnpackedTree.h"
 
@@ -191,7 +192,7 @@ Expected<void> extract(Processes& processes, const std::string& archive, int fol
     return {};
 }
 
-/// Everything that must hold before the folder may be seen.
+/// Everything that must hold before anybody reads what was unpacked.
 Expected<void> inspect(int folder, const Staging& staging, const UnpackLimits& limits) {
     if (Expected<void> safe = makeSafe(folder, staging.contents()); !safe) {
         return safe;
@@ -202,8 +203,28 @@ Expected<void> inspect(int folder, const Staging& staging, const UnpackLimits& l
     if (!measureTree(folder, staging.contents(), limits).isWithin(limits)) {
         return exceedsLimits();
     }
-    // The archive may go to the trash once this is published, so it has to be on the disk.
-    return ::syncfs(folder) == 0 ? Expected<void>{} : systemFailure(errno);
+    return {};
+}
+
+Expected<Unpacked> publish(int folder, Staging& staging, const std::string& wantedFolder) {
+    const std::string wantedName(lastComponent(wantedFolder));
+    const auto same = findSame(folder, staging.contents(), folder, wantedName);
+    if (!same) {
+        return std::unexpected(same.error());
+    }
+    // The archive may go to the trash after this, so what it held has to be on the disk.
+    if (::syncfs(folder) != 0) {
+        return systemFailure(errno);
+    }
+    const std::string parent(parentPath(wantedFolder));
+    if (*same) {
+        return Unpacked{joinPath(parent, **same), false};
+    }
+    const Expected<FreeName> published = staging.publish(wantedName);
+    if (!published) {
+        return std::unexpected(published.error());
+    }
+    return Unpacked{joinPath(parent, published->name), true};
 }
 
 } // namespace
@@ -211,9 +232,9 @@ Expected<void> inspect(int folder, const Staging& staging, const UnpackLimits& l
 BsdtarArchives::BsdtarArchives(Processes& processes, std::string temporaryTag)
     : processes_(processes), temporaries_(std::move(temporaryTag)) {}
 
-Expected<std::string> BsdtarArchives::unpack(const std::string& archive,
-                                             const std::string& wantedFolder,
-                                             const UnpackLimits& limits) {
+Expected<Unpacked> BsdtarArchives::unpack(const std::string& archive,
+                                          const std::string& wantedFolder,
+                                          const UnpackLimits& limits) {
     if (Expected<void> checked = checkArchive(archive); !checked) {
         return std::unexpected(checked.error());
     }
@@ -233,11 +254,7 @@ Expected<std::string> BsdtarArchives::unpack(const std::string& archive,
     if (!done) {
         return std::unexpected(done.error());
     }
-    const Expected<FreeName> published = staging.publish(std::string(lastComponent(wantedFolder)));
-    if (!published) {
-        return std::unexpected(published.error());
-    }
-    return joinPath(parent, published->name);
+    return publish(folder.get(), staging, wantedFolder);
 }
 
 } // namespace quillon

@@ -12,7 +12,7 @@ public:
     /// `processes` is borrowed; `temporaryTag` as for LinuxFileSystem.
     BsdtarArchives(Processes& processes, std::string temporaryTag);
 
-    [[nodiscard]] Expected<std::string> unpack(const std::string& archive,
+    [[nodiscard]] Expected<Unpacked> unpack(const std::string& archive,
                                                const std::string& wantedFolder,
                                                const UnpackLimits& limits) override;
 

@@ -5,6 +5,7 @@
 #include "platform/linux/FolderMaking.h"
 #include "platform/linux/FreeName.h"
 #include "platform/linux/Listing.h"
+#include "platform/linux/SameTree.h"
 #include "platform/linux/StagedCopy.h"
 #include "platform/linux/SystemError.h"
 #include "platform/linux/SystemStatus.h"
@@ -103,36 +104,6 @@ Expected<Placement> moveAcross(const std::string& source, const std::string& wan
     return placed(wanted, published->name, copy.losses());
 }
 
-/// The first of the wanted name and its numbered ones that holds the same as the source already;
-/// none when a free name comes first.
-Expected<std::optional<std::string>> findSame(const Route& route) {
-    const Expected<TreeSurvey> source =
-        surveyTree(route.sourceFolder.get(), route.sourceName, false);
-    if (!source) {
-        return std::unexpected(source.error());
-    }
-    const FileStatus& status = source->front().status;
-    TreeCursor original(route.sourceFolder.get(), route.sourceName);
-    for (unsigned number = 1;; ++number) {
-        const std::string name = candidateName(route.wantedName, number);
-        const Expected<FileStatus> there = statusAt(route.targetFolder.get(), name);
-        if (!there && there.error().kind == ErrorKind::notFound) {
-            return std::optional<std::string>{};
-        }
-        if (!there) {
-            return std::unexpected(there.error());
-        }
-        if (there->type != status.type || there->size != status.size) {
-            continue;
-        }
-        const Expected<TreeSurvey> found = surveyTree(route.targetFolder.get(), name, false);
-        TreeCursor candidate(route.targetFolder.get(), name);
-        if (found && haveSameContents(original, *source, candidate, *found)) {
-            return name;
-        }
-    }
-}
-
 } // namespace
 
 LinuxFileSystem::LinuxFileSystem(std::string temporaryTag)
@@ -190,7 +161,8 @@ Expected<Placement> LinuxFileSystem::copy(const std::string& source, const std::
     if (!route) {
         return std::unexpected(route.error());
     }
-    const Expected<std::optional<std::string>> same = findSame(*route);
+    const Expected<std::optional<std::string>> same = findSame(
+        route->sourceFolder.get(), route->sourceName, route->targetFolder.get(), route->wantedName);
     if (!same) {
         return std::unexpected(same.error());
     }

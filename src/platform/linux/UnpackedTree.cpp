@@ -92,7 +92,7 @@ public:
             if (found.stx_nlink > 1) {
                 unseenNames_.try_emplace(found.stx_ino, found.stx_nlink).first->second -= 1;
             }
-            return setMode(folder, name, found.stx_mode, 0);
+            return setMode(folder, name, found.stx_mode, S_IRUSR);
         case S_IFLNK:
             return takeLink(folder, folderPath, name);
         default:

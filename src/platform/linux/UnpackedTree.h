@@ -21,9 +21,9 @@ struct TreeSize {
 /// than the limits.
 [[nodiscard]] TreeSize measureTree(int folder, const std::string& root, const UnpackLimits& limits);
 
-/// Makes a freshly unpacked folder safe to hand over: folders can be entered and changed by their
-/// owner, nothing runs with another's rights. Fails with `invalid` when it holds a device, a pipe,
-/// or a link that leads out of it.
+/// Makes a freshly unpacked folder safe to hand over: its owner can read everything and change its
+/// folders, nothing runs with another's rights. Fails with `invalid` when it holds a device, a
+/// pipe, or a link that leads out of it.
 [[nodiscard]] Expected<void> makeSafe(int folder, const std::string& root);
 
 /// Too much for the limits, said for people.
