@@ -83,9 +83,12 @@ NameParts splitName(std::string_view name) {
 
 std::string_view lastComponent(std::string_view path) {
     path = withoutTrailingSlashes(path);
+    if (path.size() < 2) {
+        return path;
+    }
     // Asked of every file of a folder; string_view's own search goes byte by byte.
     const void* const slash = ::memrchr(path.data(), '/', path.size());
-    if (slash == nullptr || path.size() == 1) {
+    if (slash == nullptr) {
         return path;
     }
     return path.substr(std::size_t(static_cast<const char*>(slash) - path.data()) + 1);

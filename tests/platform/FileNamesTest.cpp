@@ -30,7 +30,7 @@ TEST(FileNames, cutPaths) {
         std::string_view path, parent, last;
     } rows[] = {
         {"/a/b", "/a", "b"}, {"/a", "/", "a"},  {"/", "/", "/"},      {"/a/b/", "/a", "b"},
-        {"a", "", "a"},      {"a/b", "a", "b"}, {"/a//b", "/a", "b"},
+        {"a", "", "a"},      {"a/b", "a", "b"}, {"/a//b", "/a", "b"}, {{}, "", ""},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(parentPath(row.path), row.parent) << row.path;

@@ -13,7 +13,7 @@ namespace {
 std::string folderName(std::string_view archiveName) {
     NameParts parts = splitName(archiveName);
     const NameParts inner = splitName(parts.stem);
-    if (nameOf(inner.extension).compare(u"tar", Qt::CaseInsensitive) == 0)
+    if (isSameIgnoringCase(inner.extension, "tar"))
         parts.stem = inner.stem;
     return legalName(nameOf(parts.stem), {}, QStringLiteral("Archive"));
 }
