@@ -13,8 +13,8 @@ public:
     BsdtarArchives(Processes& processes, std::string temporaryTag);
 
     [[nodiscard]] Expected<Unpacked> unpack(const std::string& archive,
-                                               const std::string& wantedFolder,
-                                               const UnpackLimits& limits) override;
+                                            const std::string& wantedFolder,
+                                            const UnpackLimits& limits) override;
 
 private:
     Processes& processes_;
