@@ -21,9 +21,6 @@ function(quillon_library folder)
   file(GLOB sources CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*.h
     ${PROJECT_SOURCE_DIR}/src/${folder}/conditions/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/actions/*.cpp)
-  if(NOT sources MATCHES "\\.cpp")
-    list(APPEND sources ${PROJECT_SOURCE_DIR}/cmake/Empty.cpp)
-  endif()
   add_library(quillon_${name} STATIC ${sources})
   set_target_properties(quillon_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(quillon_${name} PUBLIC quillon_options Qt6::Core ${arg_LINK})
