@@ -16,13 +16,13 @@ target_compile_definitions(quillon_options INTERFACE
 # One static library a folder. Its links are its permission to include: a folder sees only what it
 # names here and what those name in turn.
 function(quillon_library folder)
-  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(arg "QOBJECTS" "" "LINK" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
   file(GLOB sources CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*.h
     ${PROJECT_SOURCE_DIR}/src/${folder}/conditions/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/actions/*.cpp)
   add_library(quillon_${name} STATIC ${sources})
-  set_target_properties(quillon_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  set_target_properties(quillon_${name} PROPERTIES LINKER_LANGUAGE CXX AUTOMOC ${arg_QOBJECTS})
   target_link_libraries(quillon_${name} PUBLIC quillon_options Qt6::Core ${arg_LINK})
   if(TARGET quillon_platform AND NOT name STREQUAL "platform")
     target_precompile_headers(quillon_${name} REUSE_FROM quillon_platform)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/Console.h"
 #include "cli/Options.h"
 #include "model/Rule.h"
+#include "service/Console.h"
 #include "service/TidyRun.h"
 
 namespace quillon {

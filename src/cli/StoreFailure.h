@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/Console.h"
-#include "cli/ExitCode.h"
+#include "service/Console.h"
+#include "service/ExitCode.h"
 
 namespace quillon {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/Console.h"
-#include "cli/ExitCode.h"
 #include "cli/Options.h"
+#include "service/Console.h"
+#include "service/ExitCode.h"
 #include "service/Services.h"
 
 namespace quillon {

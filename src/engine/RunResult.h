@@ -6,19 +6,34 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QUuid>
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace quillon {
+
+/// A file that a rule has acted on and that can still be seen somewhere.
+struct HandledFile {
+    QUuid ruleID;
+    QString keyBefore;  ///< the file's key as listed
+    QString keyAfter;   ///< its key where it is now; see fileKey
+    std::string path;   ///< where it is now
+    bool acted = false; ///< something was done, as opposed to failing altogether
+
+    bool operator==(const HandledFile&) const = default;
+};
 
 /// The outcome of a batch.
 struct RunResult {
     std::vector<LogEntry> entries; ///< one a file, in the order in which they were handled
     /// Of every file of the batch; empty for a folder without an identity.
     QSet<QString> seenKeys;
-    QStringList waiting;      ///< names of files that wait for the assistant
-    bool interrupted = false; ///< EngineSettings::mayContinue ended the run early
+    QStringList waiting;              ///< names of files that wait for the assistant
+    QSet<QString> waitingKeys;        ///< of those files; empty for a folder without an identity
+    std::vector<HandledFile> handled; ///< likewise
+    bool interrupted = false;         ///< EngineSettings::mayContinue ended the run early
     /// Set when the journal could not be written and the run ended early.
     std::optional<Error> stopped;
 };

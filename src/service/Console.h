@@ -7,6 +7,7 @@
 #include <functional>
 #include <istream>
 #include <ostream>
+#include <string>
 
 namespace quillon {
 
@@ -18,6 +19,8 @@ struct Console {
     std::ostream& err;
     bool colored = false;       ///< `out` shows colours
     bool showsProgress = false; ///< `err` is a terminal
+    /// Where relative paths start, absolute. Empty: this process's own working folder.
+    std::string workingFolder = {};
     /// Asked before each file is touched; false ends the command early. Empty: always.
     std::function<bool()> mayContinue = {};
 

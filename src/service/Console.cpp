@@ -1,4 +1,4 @@
-#include "cli/Console.h"
+#include "service/Console.h"
 
 #include "cli/ShownText.h"
 

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "store/AppStore.h"
+
+#include <functional>
+#include <type_traits>
+#include <vector>
+
+namespace quillon {
+
+/// The AppStore for a thread other than its own, such as the one that a command runs on. Every call
+/// blocks until the store's thread has answered; the store outlives it.
+class StoreAccess {
+public:
+    explicit StoreAccess(AppStore& store) : store_(&store) {}
+
+    /// Runs `work(store)` on the store's thread and returns what it returns. `work` must not keep
+    /// the store waiting.
+    template <typename Work>
+    std::invoke_result_t<Work, AppStore&> call(Work&& work) const {
+        using Result = std::invoke_result_t<Work, AppStore&>;
+        if constexpr (std::is_void_v<Result>) {
+            onStoreThread([&] { work(*store_); });
+        } else {
+            std::optional<Result> result;
+            onStoreThread([&] { result.emplace(work(*store_)); });
+            return std::move(*result);
+        }
+    }
+
+    /// As call(), then waits for the runs that `change` has set off, and returns what came of each.
+    /// Ends early, with fewer, when `mayContinue` turns false; those runs then end by themselves.
+    [[nodiscard]] std::vector<RunReport> runsOf(const std::function<void(AppStore&)>& change,
+                                                const std::function<bool()>& mayContinue) const;
+
+    /// Waits until nothing in the folder is settling any more, and returns what came of the runs in
+    /// between.
+    [[nodiscard]] std::vector<RunReport>
+    untilSettled(const QUuid& folderID, const std::function<bool()>& mayContinue) const;
+
+    [[nodiscard]] AppStore::CleanupReport runCleanup(AppStore::Cleanup cleanup) const;
+    [[nodiscard]] AppStore::UndoReport undo(std::vector<QUuid> entryIDs, Progress progress,
+                                            std::function<bool()> mayContinue) const;
+    [[nodiscard]] AppStore::UndoReport undoCleanup(const QUuid& batchID, Progress progress,
+                                                   std::function<bool()> mayContinue) const;
+
+private:
+    void onStoreThread(const std::function<void()>& work) const;
+
+    AppStore* store_;
+};
+
+} // namespace quillon
