@@ -1,8 +1,13 @@
 #pragma once
 
+#include "model/MatchMode.h"
+#include "model/TidyTiming.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace quillon {
 
@@ -22,6 +27,7 @@ struct CheckOptions {
 };
 
 struct LogOptions {
+    std::string folder; ///< empty: every folder
     bool errorsOnly = false;
     std::optional<std::size_t> limit;
     bool json = false;
@@ -32,6 +38,123 @@ struct UndoOptions {
     std::string entry; ///< a UUID or the beginning of one
     std::string batch; ///< likewise
     bool last = false;
+    bool json = false;
+};
+
+/// Of verbs that take nothing else.
+struct PlainOptions {
+    bool json = false;
+};
+
+/// What a folder's flags ask for; nothing where none is given.
+struct FolderSettings {
+    std::optional<TidyTiming> timing = {};
+    std::optional<bool> isRecursive = {};
+    std::optional<bool> onlyNewFiles = {};
+    std::optional<bool> skipOnlineOnly = {};
+    std::optional<std::string> color = {}; ///< a number of the palette, or "none"
+    std::optional<std::string> symbol = {};
+};
+
+/// Of `folder add` and `folder set`, and without the settings of `folder remove`.
+struct WatchedFolderOptions {
+    std::vector<std::string> folders; ///< one or more
+    FolderSettings settings;
+    bool json = false;
+};
+
+/// Of the verbs of `rule` that take a folder and rules of it.
+struct RuleOptions {
+    std::string folder;
+    std::vector<std::string> rules; ///< names, positions from 1, or beginnings of ids
+    bool json = false;
+};
+
+/// Either `file`, or `preset`, or a rule in words.
+struct RuleAddOptions {
+    std::string folder;
+    std::string file;   ///< a rule file, or "-" for standard input
+    std::string preset; ///< a title
+    std::string name;
+    std::vector<std::string> conditions;
+    std::vector<std::string> actions;
+    MatchMode matchMode = MatchMode::all;
+    bool isOff = false;
+    bool json = false;
+};
+
+struct RuleCopyOptions {
+    std::string folder;
+    std::string rule;
+    std::string target; ///< the other folder
+    bool json = false;
+};
+
+/// Exactly one of the last three is given.
+struct RuleMoveOptions {
+    std::string folder;
+    std::string rule;
+    std::optional<int> position; ///< from 1
+    std::string before;          ///< another rule
+    std::optional<int> offset;   ///< downwards
+};
+
+/// Of `rule import` and `rule export`.
+struct RuleFileOptions {
+    std::string folder;
+    std::string file; ///< "-" for a standard stream
+    bool json = false;
+};
+
+struct PresetAddOptions {
+    std::string folder;
+    std::vector<std::string> presets; ///< titles
+    bool json = false;
+};
+
+struct RecipeListOptions {
+    std::string folder; ///< empty: no folder in particular
+    bool json = false;
+};
+
+struct RunOptions {
+    std::vector<std::string> folders; ///< none: every watched folder
+    bool waits = false;               ///< until nothing is settling any more
+    bool json = false;
+};
+
+struct CleanupOptions {
+    std::string folder;
+    std::vector<std::string> recipes;              ///< ids; none: those on by default
+    std::vector<std::pair<std::string, int>> days; ///< by recipe id
+    bool isDryRun = false;
+    bool keeps = false; ///< turn the recipes into permanent rules instead
+    bool json = false;
+};
+
+struct DiagnosticsOptions {
+    std::string output; ///< a file; empty: standard output
+};
+
+/// Of the verbs of `settings`; what a verb does not take is empty.
+struct SettingsOptions {
+    std::string key;
+    std::string value;
+    bool json = false;
+};
+
+struct StatusOptions {
+    bool json = false;
+};
+
+struct DiagnosticsOptions {
+    std::string output; ///< a file that is not there yet, or a folder; empty: standard output
+};
+
+/// Of `settings list`, `settings get` and `settings set`.
+struct SettingsOptions {
+    std::string key;
+    std::string value;
     bool json = false;
 };
 
