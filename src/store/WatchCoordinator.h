@@ -5,8 +5,10 @@
 #include "platform/FolderWatcher.h"
 #include "platform/Timers.h"
 
-#include <QHash>
+#include <QString>
+#include <QUuid>
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
@@ -31,7 +33,7 @@ public:
     std::function<void()> onWarningsChanged;
 
     /// Makes the watchers match the folders that are tidied live. A folder that stays live keeps
-    /// its watcher, unless its path has changed.
+    /// its watcher, unless its path has changed; one that no longer is makes no more calls.
     void sync(const std::vector<WatchedFolder>& folders);
 
     void scheduleChange(const QUuid& folderID);
@@ -42,10 +44,12 @@ public:
 private:
     struct Watch;
 
+    [[nodiscard]] std::shared_ptr<Watch> startWatch(const WatchedFolder& folder);
+
     FolderWatching& watching_;
     Timers& timers_;
     Background& background_;
-    std::map<QUuid, std::unique_ptr<Watch>> watchers_;
+    std::map<QUuid, std::shared_ptr<Watch>> watchers_;
     std::map<QUuid, std::unique_ptr<Timer>> debounceItems_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/Timers.h"
 
+#include <algorithm>
 #include <map>
 
 namespace quillon::testing {
