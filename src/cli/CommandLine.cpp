@@ -3,6 +3,8 @@
 #include "cli/NearestWord.h"
 #include "cli/VerbTable.h"
 
+#include <optional>
+#include <span>
 #include <sstream>
 
 namespace quillon {
@@ -12,38 +14,29 @@ constexpr const char* exitCodes =
     R"(Exit codes: 0 done, 1 some file failed, 2 wrong usage, 3 input can't be read,
 4 another Quillon is at work and can't be reached.)";
 
-std::vector<std::string> verbNames() {
-    std::vector<std::string> names;
-    for (const Verb& verb : verbTable())
-        names.emplace_back(verb.name);
-    return names;
+/// `command` is the part of the command line whose help to point at: "quillon folder add".
+Answer wrong(const std::string& what, const std::string& command) {
+    return {"quillon: " + what + "\nSee: " + command + " --help\n", ExitCode::usage};
 }
 
-Answer wrong(const std::string& what, const CLI::App& app) {
-    const auto verbs = app.get_subcommands();
-    const std::string help =
-        verbs.empty() ? "quillon --help" : "quillon " + verbs[0]->get_name() + " --help";
-    return {"quillon: " + what + "\nSee: " + help + "\n", ExitCode::usage};
-}
-
-Answer unknownVerb(const std::string& word, const CLI::App& app) {
-    return wrong("“" + word + "” is not a command; the nearest is “" +
-                     nearestWord(word, verbNames()) + "”",
-                 app);
+Answer unknownVerb(const std::string& word, const std::string& noun) {
+    const std::string place = noun.empty() ? "a command" : "a command of quillon " + noun;
+    return wrong("“" + word + "” is not " + place + "; the nearest is “" +
+                     nearestWord(word, wordsBelow(noun)) + "”",
+                 noun.empty() ? "quillon" : "quillon " + noun);
 }
 
 Answer unexpected(const CLI::App& app) {
     const std::string word = app.remaining(true).front();
-    const auto verbs = app.get_subcommands();
     if (!word.starts_with('-'))
-        return wrong("“" + word + "” is one argument too many", app);
+        return wrong("“" + word + "” is one argument too many", app.get_name());
     std::vector<std::string> names;
-    for (const CLI::Option* option : (verbs.empty() ? &app : verbs[0])->get_options())
+    for (const CLI::Option* option : app.get_options())
         for (const std::string& name : option->get_lnames())
             names.push_back("--" + name);
     return wrong("“" + word + "” is not an option; the nearest is “" +
                      nearestWord(word.substr(0, word.find('=')), names) + "”",
-                 app);
+                 app.get_name());
 }
 
 Answer answerTo(const CLI::ParseError& error, const CLI::App& app) {
@@ -57,44 +50,57 @@ Answer answerTo(const CLI::ParseError& error, const CLI::App& app) {
         return unexpected(app);
     const std::string what = error.what();
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ArgumentMismatch))
-        return wrong(what.substr(0, what.find(':')) + " takes one value and is given once", app);
-    return wrong(what, app);
+        return wrong(what.substr(0, what.find(':')) + " takes one value and is given once",
+                     app.get_name());
+    return wrong(what, app.get_name());
 }
 
-} // namespace
-
-std::variant<Command, Answer> parseCommandLine(const std::vector<std::string>& arguments) {
-    CLI::App app(
-        "Quillon keeps folders tidy: it files, renames and tags what lands in them, by rules.",
-        "quillon");
-    app.set_help_flag("-h,--help", "Show this help");
-    app.set_version_flag("--version", "quillon " QUILLON_VERSION)->description("Show the version");
-    app.get_formatter()->column_width(34);
-    app.get_formatter()->label("REQUIRED", "");
-    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    app.get_formatter()->label("Subcommands", "Commands");
-    app.get_formatter()->label("Positionals", "Arguments");
-    app.footer(std::string("quillon COMMAND --help shows an example of each.\n") + exitCodes);
-
-    std::vector<std::pair<CLI::App*, Command>> commands;
-    for (const Verb& verb : verbTable()) {
-        CLI::App* const sub = app.add_subcommand(verb.name, verb.description);
-        sub->footer(std::string("Example:\n") + verb.example);
-        commands.emplace_back(sub, verb.define(*sub));
-    }
-    if (arguments.empty())
-        return Answer{app.help(), ExitCode::usage};
-    if (!arguments[0].starts_with('-') && !std::ranges::count(verbNames(), arguments[0]))
-        return unknownVerb(arguments[0], app);
+/// Nothing when the arguments are fine.
+std::optional<Answer> parse(CLI::App& app, std::span<const std::string> arguments) {
     try {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::ParseError& error) {
         return answerTo(error, app);
     }
-    for (const auto& [sub, command] : commands)
-        if (sub->parsed())
-            return command;
-    return Answer{app.help(), ExitCode::usage};
+    return std::nullopt;
+}
+
+Answer answerWithoutVerb(std::span<const std::string> arguments) {
+    CLI::App app(
+        "Quillon keeps folders tidy: it files, renames and tags what lands in them, by rules.",
+        "quillon");
+    styleHelp(app);
+    app.set_version_flag("--version", "quillon " QUILLON_VERSION)->description("Show the version");
+    app.footer(std::string("quillon COMMAND --help shows an example of each.\n") + exitCodes);
+    for (const std::string& word : wordsBelow({}))
+        app.add_subcommand(word, findVerb(word)->description);
+    return parse(app, arguments).value_or(Answer{app.help(), ExitCode::usage});
+}
+
+} // namespace
+
+std::variant<Command, Answer> parseCommandLine(const std::vector<std::string>& arguments) {
+    std::span<const std::string> rest(arguments);
+    if (rest.empty() || rest[0].starts_with('-'))
+        return answerWithoutVerb(rest);
+    const Verb* verb = findVerb(rest[0]);
+    if (verb == nullptr || verb->name.contains(' '))
+        return unknownVerb(rest[0], {});
+    rest = rest.subspan(1);
+    if (verb->define == nullptr && !rest.empty() && !rest[0].starts_with('-')) {
+        const std::string noun(verb->name);
+        verb = findVerb(noun + ' ' + rest[0]);
+        if (verb == nullptr)
+            return unknownVerb(rest[0], noun);
+        rest = rest.subspan(1);
+    }
+
+    VerbParser parser(*verb);
+    if (const auto answer = parse(parser.app, rest))
+        return *answer;
+    if (!parser.command)
+        return Answer{parser.app.help(), ExitCode::usage};
+    return parser.command;
 }
 
 ExitCode runCommandLine(const std::vector<std::string>& arguments, const Console& console,

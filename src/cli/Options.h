@@ -132,17 +132,6 @@ struct CleanupOptions {
     bool json = false;
 };
 
-struct DiagnosticsOptions {
-    std::string output; ///< a file; empty: standard output
-};
-
-/// Of the verbs of `settings`; what a verb does not take is empty.
-struct SettingsOptions {
-    std::string key;
-    std::string value;
-    bool json = false;
-};
-
 struct StatusOptions {
     bool json = false;
 };

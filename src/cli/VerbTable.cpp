@@ -1,123 +1,136 @@
 #include "cli/VerbTable.h"
 
-#include "cli/Verbs.h"
+#include "cli/Syntax.h"
 
-#include <cmath>
+#include <algorithm>
 
 namespace quillon {
 namespace {
 
-constexpr double longestSettle = 366.0 * 86400;
-
-std::string parseSettle(const std::string& text, double& seconds) {
-    bool isNumber = false;
-    seconds = QByteArray::fromStdString(text).toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(seconds) || seconds < 0 || seconds > longestSettle)
-        return "“" + text + "” is not a time in seconds from 0 to a year";
-    return {};
-}
-
-std::string parseLimit(const std::string& text, std::optional<std::size_t>& limit) {
-    bool isNumber = false;
-    limit = QByteArray::fromStdString(text).toUInt(&isNumber);
-    return isNumber && *limit > 0 ? std::string() : "“" + text + "” is not a number of entries";
-}
-
-/// An option whose text is turned into a value by a function that returns what is wrong with it.
-template <typename T>
-void addParsed(CLI::App& parser, const std::string& name, T& value,
-               std::string (*parse)(const std::string&, T&), const std::string& description) {
-    parser.add_option_function<std::string>(
-        name,
-        [name, &value, parse](const std::string& text) {
-            if (const std::string problem = parse(text, value); !problem.empty())
-                throw CLI::ValidationError(name, problem);
-        },
-        description);
-}
-
-void addJson(CLI::App& parser, bool& json) {
-    parser.add_flag("--json", json, "Print JSON instead of text");
-}
-
-template <ExitCode (*run)(const FolderOptions&, const Console&, Services&)>
-Command defineFolderVerb(CLI::App& parser) {
-    const auto options = std::make_shared<FolderOptions>();
-    parser.add_option("DIR", options->folder, "The folder")->required()->type_name("");
-    parser.add_option("--rules", options->rules, "A rule file, or - for standard input")
-        ->required()
-        ->type_name("RULES");
-    parser.add_flag("--recursive", options->isRecursive, "Also look at files in subfolders");
-    parser.add_flag("--skip-online-only", options->skipOnlineOnly,
-                    "Leave files alone that are only in cloud storage");
-    addParsed(parser, "--settle", options->settleSeconds, parseSettle,
-              "Leave files alone that changed less than SECONDS ago (3 unless given)");
-    parser.get_option("--settle")->type_name("SECONDS");
-    addJson(parser, options->json);
-    return [options](const Console& console, Services& services) {
-        return run(*options, console, services);
-    };
-}
-
-Command defineCheck(CLI::App& parser) {
-    const auto options = std::make_shared<CheckOptions>();
-    parser.add_option("RULES", options->rules, "A rule file, or - for standard input")
-        ->required()
-        ->type_name("");
-    addJson(parser, options->json);
-    return [options](const Console& console, Services& services) {
-        return checkCommand(*options, console, services);
-    };
-}
-
-Command defineLog(CLI::App& parser) {
-    const auto options = std::make_shared<LogOptions>();
-    parser.add_flag("--errors", options->errorsOnly, "Only what went wrong");
-    addParsed(parser, "--limit", options->limit, parseLimit, "At most N entries, the newest");
-    parser.get_option("--limit")->type_name("N");
-    addJson(parser, options->json);
-    return [options](const Console& console, Services& services) {
-        return logCommand(*options, console, services);
-    };
-}
-
-Command defineUndo(CLI::App& parser) {
-    const auto options = std::make_shared<UndoOptions>();
-    parser.add_option("ENTRY", options->entry, "An entry's id, or its first 4 characters or more")
-        ->type_name("");
-    parser.add_option("--batch", options->batch, "Everything that one run did")->type_name("ID");
-    parser.add_flag("--last", options->last, "The newest entry that can be undone");
-    addJson(parser, options->json);
-    parser.callback([&parser, options] {
-        const std::size_t given =
-            parser.count("ENTRY") + parser.count("--batch") + std::size_t(options->last ? 1 : 0);
-        if (given != 1)
-            throw CLI::ValidationError("Give one of ENTRY, --batch ID and --last");
-    });
-    return [options](const Console& console, Services& services) {
-        return undoCommand(*options, console, services);
-    };
-}
-
 constexpr Verb verbs[] = {
-    {"tidy", "Tidy a folder by the rules of a file",
-     "  quillon tidy ~/Downloads --rules rules.json --recursive", defineFolderVerb<tidyCommand>},
+    {"tidy", "Tidy a folder once by the rules of a file",
+     "quillon tidy ~/Downloads --rules rules.json --recursive", defineTidy},
     {"preview", "Show what tidying a folder would do, and change nothing",
-     "  quillon preview ~/Downloads --rules rules.json", defineFolderVerb<previewCommand>},
+     "quillon preview ~/Downloads --rules rules.json", definePreview},
     {"probe", "Show which files each rule alone would catch",
-     "  quillon probe ~/Downloads --rules rules.json", defineFolderVerb<probeCommand>},
+     "quillon probe ~/Downloads --rules rules.json", defineProbe},
     {"check", "Say in plain words what a rule file does and what it lacks",
-     "  quillon check rules.json", defineCheck},
-    {"log", "Show what has been done, newest first", "  quillon log --errors --limit 20",
-     defineLog},
-    {"undo", "Put files back where they were", "  quillon undo --last\n  quillon undo 2C9E4B70",
+     "quillon check rules.json", defineCheck},
+
+    {"folder", "The folders that are kept tidy"},
+    {"folder add", "Watch folders, and tidy them", "quillon folder add ~/Downloads --timing hourly",
+     defineFolderAdd},
+    {"folder remove", "Watch folders no more; their files stay",
+     "quillon folder remove ~/Downloads", defineFolderRemove},
+    {"folder list", "Show the watched folders", "quillon folder list", defineFolderList},
+    {"folder set", "Change how folders are watched",
+     "quillon folder set ~/Downloads --recursive on --only-new on", defineFolderSet},
+
+    {"rule", "The rules of a watched folder"},
+    {"rule list", "Show a folder's rules in the order in which they are tried",
+     "quillon rule list --folder ~/Downloads", defineRuleList},
+    {"rule add", "Add a rule in words, from a file, or ready-made",
+     "quillon rule add --folder ~/Downloads --name \"File PDFs\" \\\n"
+     "    --if \"extension is pdf\" --then \"move to ~/Documents/PDFs\"",
+     defineRuleAdd},
+    {"rule remove", "Remove rules", "quillon rule remove \"File PDFs\" --folder ~/Downloads",
+     defineRuleRemove},
+    {"rule enable", "Switch rules on", "quillon rule enable 2 --folder ~/Downloads",
+     defineRuleEnable},
+    {"rule disable", "Switch rules off", "quillon rule disable \"File PDFs\" --folder ~/Downloads",
+     defineRuleDisable},
+    {"rule duplicate", "Add a copy of a rule below it",
+     "quillon rule duplicate \"File PDFs\" --folder ~/Downloads", defineRuleDuplicate},
+    {"rule copy", "Copy a rule to another watched folder",
+     "quillon rule copy \"File PDFs\" --folder ~/Downloads --to ~/Desktop", defineRuleCopy},
+    {"rule move", "Change when a rule's turn comes",
+     "quillon rule move \"File PDFs\" --folder ~/Downloads --to 1", defineRuleMove},
+    {"rule import", "Add the rules of a file",
+     "quillon rule import rules.json --folder ~/Downloads", defineRuleImport},
+    {"rule export", "Write a folder's rules to a file",
+     "quillon rule export rules.json --folder ~/Downloads", defineRuleExport},
+
+    {"preset", "Ready-made rules"},
+    {"preset list", "Show the ready-made rules", "quillon preset list", definePresetList},
+    {"preset add", "Add ready-made rules to a folder",
+     "quillon preset add \"Sort by kind\" --folder ~/Downloads", definePresetAdd},
+    {"recipe", "What a clean-up can do"},
+    {"recipe list", "Show what a clean-up can do", "quillon recipe list", defineRecipeList},
+
+    {"run", "Tidy watched folders now", "quillon run ~/Downloads", defineRun},
+    {"cleanup", "Clean a folder up once by ready-made recipes",
+     "quillon cleanup ~/Downloads --recipe old-installers --days old-installers=30 --dry-run",
+     defineCleanup},
+    {"log", "Show what has been done, newest first", "quillon log --errors --limit 20", defineLog},
+    {"undo", "Put files back where they were", "quillon undo --last\nquillon undo 2C9E4B70",
      defineUndo},
+    {"pause", "Tidy nothing by itself until resumed", "quillon pause", definePause},
+    {"resume", "Tidy by itself again, beginning now", "quillon resume", defineResume},
+    {"status", "Show what is watched and whether all is well", "quillon status", defineStatus},
+    {"diagnostics", "Write a report for support", "quillon diagnostics --output report.txt",
+     defineDiagnostics},
+    {"settings", "What applies to all folders"},
+    {"settings list", "Show every setting", "quillon settings list", defineSettingsList},
+    {"settings get", "Show a setting", "quillon settings get notificationsEnabled",
+     defineSettingsGet},
+    {"settings set", "Change a setting", "quillon settings set notificationsEnabled false",
+     defineSettingsSet},
 };
+
+/// A name cut before its last word.
+std::string_view nounOf(std::string_view name) {
+    const std::size_t space = name.rfind(' ');
+    return space == std::string_view::npos ? std::string_view() : name.substr(0, space);
+}
+
+std::string indented(std::string_view lines) {
+    std::string text;
+    for (const std::string& line : CLI::detail::split(std::string(lines), '\n'))
+        text += "\n  " + line;
+    return text;
+}
 
 } // namespace
 
 std::span<const Verb> verbTable() {
     return verbs;
+}
+
+const Verb* findVerb(std::string_view name) {
+    const auto found = std::ranges::find(verbs, name, &Verb::name);
+    return found == std::end(verbs) ? nullptr : found;
+}
+
+std::vector<std::string> wordsBelow(std::string_view noun) {
+    std::vector<std::string> words;
+    for (const Verb& verb : verbs)
+        if (nounOf(verb.name) == noun)
+            words.emplace_back(verb.name.substr(noun.empty() ? 0 : noun.size() + 1));
+    return words;
+}
+
+void styleHelp(CLI::App& app) {
+    app.set_help_flag("-h,--help", "Show this help");
+    const auto formatter = std::make_shared<CLI::Formatter>();
+    formatter->column_width(34);
+    formatter->label("REQUIRED", "");
+    formatter->label("SUBCOMMAND", "COMMAND");
+    formatter->label("Subcommands", "Commands");
+    formatter->label("Positionals", "Arguments");
+    app.formatter(formatter);
+}
+
+VerbParser::VerbParser(const Verb& verb)
+    : app(verb.description, "quillon " + std::string(verb.name)) {
+    styleHelp(app);
+    if (verb.define != nullptr) {
+        app.footer("Example:" + indented(verb.example));
+        command = verb.define(app);
+        return;
+    }
+    for (const std::string& word : wordsBelow(verb.name))
+        app.add_subcommand(word, findVerb(std::string(verb.name) + ' ' + word)->description);
+    app.footer("quillon " + std::string(verb.name) + " COMMAND --help shows an example of each.");
 }
 
 } // namespace quillon

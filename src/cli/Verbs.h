@@ -45,14 +45,4 @@ namespace quillon {
 [[nodiscard]] ExitCode presetAddCommand(const PresetAddOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode recipeListCommand(const RecipeListOptions&, const Console&, Services&);
 
-[[nodiscard]] ExitCode runCommand(const RunOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode cleanupCommand(const CleanupOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode pauseCommand(const PlainOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode resumeCommand(const PlainOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode statusCommand(const PlainOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode diagnosticsCommand(const DiagnosticsOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode settingsGetCommand(const SettingsOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode settingsSetCommand(const SettingsOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode settingsListCommand(const SettingsOptions&, const Console&, Services&);
-
 } // namespace quillon

@@ -1,0 +1,11 @@
+#include "cli/Verbs.h"
+
+namespace quillon {
+
+ExitCode recipeListCommand(const RecipeListOptions& /*options*/, const Console& console,
+                           Services& /*services*/) {
+    console.say(QStringLiteral("This command is being built"));
+    return ExitCode::someFailed;
+}
+
+} // namespace quillon
