@@ -1,6 +1,6 @@
 #include "cli/CommandLine.h"
 
-#include "cli/NearestWord.h"
+#include "model/NearestWord.h"
 #include "cli/VerbTable.h"
 
 #include <optional>

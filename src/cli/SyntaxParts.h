@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/CommandLine.h"
-#include "cli/NearestWord.h"
+#include "model/NearestWord.h"
 #include "model/RawValue.h"
 
 #include <CLI/CLI.hpp>

@@ -1,4 +1,4 @@
-#include "cli/NearestWord.h"
+#include "model/NearestWord.h"
 
 #include <algorithm>
 #include <numeric>
