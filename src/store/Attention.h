@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/LogEntry.h"
+#include "store/FolderAccess.h"
+
+#include <QHash>
+#include <QUuid>
+
+#include <vector>
+
+namespace quillon {
+
+/// Whether an entry tells of something that went wrong within the last day.
+[[nodiscard]] bool isRecentError(const LogEntry& entry, Timestamp now);
+
+/// Those of a folder.
+[[nodiscard]] std::size_t recentErrorCount(const std::vector<LogEntry>& logs, const QUuid& folderID,
+                                           Timestamp now);
+
+/// Some folder is not `ok`, or something went wrong within the last day.
+[[nodiscard]] bool needsAttention(const QHash<QUuid, FolderAccess>& access,
+                                  const std::vector<LogEntry>& logs, Timestamp now);
+
+} // namespace quillon
