@@ -15,10 +15,14 @@ std::size_t recentErrorCount(const std::vector<LogEntry>& logs, const QUuid& fol
     }));
 }
 
-bool needsAttention(const QHash<QUuid, FolderAccess>& access, const std::vector<LogEntry>& logs,
+bool needsAttention(const std::vector<WatchedFolder>& folders,
+                    const QHash<QUuid, FolderAccess>& access, const std::vector<LogEntry>& logs,
                     Timestamp now) {
-    return std::ranges::any_of(access, [](FolderAccess a) { return a != FolderAccess::ok; }) ||
-           std::ranges::any_of(logs, [&](const LogEntry& e) { return isRecentError(e, now); });
+    const auto isBlocked = [&](const WatchedFolder& folder) {
+        return access.value(folder.id, FolderAccess::ok) != FolderAccess::ok;
+    };
+    const auto isRecent = [&](const LogEntry& entry) { return isRecentError(entry, now); };
+    return std::ranges::any_of(folders, isBlocked) || std::ranges::any_of(logs, isRecent);
 }
 
 } // namespace quillon

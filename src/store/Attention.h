@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/LogEntry.h"
+#include "model/WatchedFolder.h"
 #include "store/FolderAccess.h"
 
 #include <QHash>
@@ -17,8 +18,9 @@ namespace quillon {
 [[nodiscard]] std::size_t recentErrorCount(const std::vector<LogEntry>& logs, const QUuid& folderID,
                                            Timestamp now);
 
-/// Some folder is not `ok`, or something went wrong within the last day.
-[[nodiscard]] bool needsAttention(const QHash<QUuid, FolderAccess>& access,
+/// Some folder has been found to be not `ok`, or something went wrong within the last day.
+[[nodiscard]] bool needsAttention(const std::vector<WatchedFolder>& folders,
+                                  const QHash<QUuid, FolderAccess>& access,
                                   const std::vector<LogEntry>& logs, Timestamp now);
 
 } // namespace quillon
