@@ -13,8 +13,14 @@
 #include "platform/linux/TrashPlaces.h"
 #include "platform/linux/XattrProvenance.h"
 #include "platform/linux/XattrTags.h"
+#include "service/NoQuestions.h"
+#include "store/EventLoopTimers.h"
+#include "store/StorePlaces.h"
+#include "store/ThreadBackground.h"
 
+#include <QObject>
 #include <QRandomGenerator>
+#include <QThread>
 
 #include <thread>
 
@@ -30,12 +36,35 @@ std::string homeTrash(const UserFolders& folders) {
     return joinPath(parentPath(folders.data), "Trash");
 }
 
+class NullWatcher final : public FolderWatcher {
+    [[nodiscard]] std::optional<QString> warning() const override { return std::nullopt; }
+};
+class NullWatching final : public FolderWatching {
+    [[nodiscard]] std::unique_ptr<FolderWatcher> watch(const std::string& /*path*/,
+                                                       FolderWatchHandlers /*handlers*/) override {
+        return std::make_unique<NullWatcher>();
+    }
+};
+class NullNotifier final : public Notifier {
+    void post(const Notification& /*notification*/) override {}
+};
+class NullSettings final : public Settings {
+    [[nodiscard]] std::optional<QString> value(const QString& /*key*/) const override {
+        return std::nullopt;
+    }
+    [[nodiscard]] Expected<void> setValue(const QString& /*key*/,
+                                          const QString& /*value*/) override {
+        return {};
+    }
+};
+
 } // namespace
 
 struct Services::Machine {
     explicit Machine(const UserFolders& userFolders) : folders(userFolders) {}
 
     UserFolders folders;
+    QObject loop; ///< lives on the event loop's thread
     std::string tag = randomTag();
     LinuxStorage storage;
     LinuxFileSystem fileSystem{tag};
@@ -57,7 +86,36 @@ struct Services::Machine {
                       .archives = archives,
                       .clock = clock,
                       .folders = folders};
+    NullSettings settings;
     DobbinJudge judge{fileSystem, clock};
+};
+
+/// What only an open store needs. The store goes first.
+struct Services::OpenStore {
+    EventLoopTimers timers;
+    ThreadBackground background;
+    NullWatching watching;
+    NullNotifier notifier;
+    NoQuestions resolver;
+    AppStore::Life life;
+    AppStore store;
+
+    OpenStore(Services& services, std::unique_ptr<StoreSession> session, AppStore::Life itsLife)
+        : life(itsLife)
+        , store(std::move(session),
+                {.platform = services.machine_->platform,
+                 .storage = services.machine_->storage,
+                 .settings = services.machine_->settings,
+                 .timers = timers,
+                 .background = background,
+                 .watching = watching,
+                 .notifier = notifier,
+                 .resolver = resolver,
+                 .makeEngine =
+                     [&services](EngineSettings settings) {
+                         return services.engine(std::move(settings));
+                     }},
+                itsLife) {}
 };
 
 Services::Services(const UserFolders& folders) : machine_(std::make_unique<Machine>(folders)) {}
@@ -70,6 +128,10 @@ const Platform& Services::platform() const {
 
 Storage& Services::storage() {
     return machine_->storage;
+}
+
+Settings& Services::settings() {
+    return machine_->settings;
 }
 
 RuleEngine Services::engine(EngineSettings settings) {
@@ -86,12 +148,68 @@ StoreSession::Services Services::storeServices() {
             .temporaryTag = machine_->tag};
 }
 
-Expected<std::unique_ptr<StoreSession>> Services::openStore() {
-    return StoreSession::open(StorePlaces(machine_->folders.data), storeServices());
+Expected<void> Services::open(AppStore::Life life) {
+    if (store_)
+        return {};
+    auto session = StoreSession::open(StorePlaces(machine_->folders.data), storeServices());
+    if (!session)
+        return std::unexpected(session.error());
+    store_ = std::make_unique<OpenStore>(*this, std::move(*session), life);
+    return {};
 }
 
-Expected<StoreView> Services::viewStore() {
-    return quillon::viewStore(StorePlaces(machine_->folders.data), storeServices());
+Expected<StoreAccess> Services::openStore() {
+    Expected<void> opened;
+    onLoop([&] { opened = open(AppStore::Life::command); });
+    if (!opened)
+        return std::unexpected(opened.error());
+    return StoreAccess(store_->store);
+}
+
+Expected<StoreSnapshot> Services::viewStore() {
+    std::optional<StoreSnapshot> snapshot;
+    onLoop([&] {
+        if (!store_)
+            return;
+        snapshot = snapshotOf(store_->store);
+        snapshot->isInstance = store_->life == AppStore::Life::instance;
+    });
+    if (!snapshot) {
+        auto view = quillon::viewStore(StorePlaces(machine_->folders.data), storeServices());
+        if (!view)
+            return std::unexpected(view.error());
+        snapshot =
+            StoreSnapshot{.state = std::move(view->state), .warnings = std::move(view->warnings)};
+    }
+    for (const WatchedFolder& folder : snapshot->state.folders)
+        if (!snapshot->access.contains(folder.id))
+            snapshot->access.insert(folder.id,
+                                    probeAccess(machine_->fileSystem, folder.path.toStdString()));
+    return *snapshot;
+}
+
+Expected<AppStore*> Services::startInstance() {
+    if (auto opened = open(AppStore::Life::instance); !opened)
+        return std::unexpected(opened.error());
+    return &store_->store;
+}
+
+void Services::finish(std::function<void()> done) {
+    if (store_)
+        store_->store.finish(std::move(done));
+    else
+        done();
+}
+
+void Services::hurry() {
+    if (store_)
+        store_->store.hurry();
+}
+
+void Services::onLoop(const std::function<void()>& work) const {
+    const bool isHere = machine_->loop.thread() == QThread::currentThread();
+    QMetaObject::invokeMethod(&machine_->loop, work,
+                              isHere ? Qt::DirectConnection : Qt::BlockingQueuedConnection);
 }
 
 } // namespace quillon

@@ -3,14 +3,19 @@
 #include "engine/EngineSettings.h"
 #include "engine/RuleEngine.h"
 #include "platform/Platform.h"
+#include "platform/Settings.h"
+#include "service/StoreAccess.h"
+#include "service/StoreSnapshot.h"
 #include "store/StoreSession.h"
 
+#include <functional>
 #include <memory>
 
 namespace quillon {
 
 /// Builds the platform, the assistant's judge, the engine and the store for one process, and hands
-/// them out by reference. Cheap to make: what costs anything is built when it is first used.
+/// them out by reference. Cheap to make: what costs anything is built when it is first used. Made
+/// and destroyed on the thread of the event loop, to be used from any.
 class Services {
 public:
     explicit Services(const UserFolders& folders);
@@ -18,19 +23,41 @@ public:
 
     [[nodiscard]] const Platform& platform() const;
     [[nodiscard]] Storage& storage();
+    [[nodiscard]] Settings& settings();
     [[nodiscard]] RuleEngine engine(EngineSettings settings);
 
-    /// The store for changing; see StoreSession::open.
-    [[nodiscard]] Expected<std::unique_ptr<StoreSession>> openStore();
-    /// The store for reading; see quillon::viewStore.
-    [[nodiscard]] Expected<StoreView> viewStore();
+    /// The store for changing, opened on the event loop's thread when it is first asked for; see
+    /// StoreSession::open for how it fails. From a thread other than that.
+    [[nodiscard]] Expected<StoreAccess> openStore();
+
+    /// The store for reading: from the open store, or else from its files without waiting for
+    /// anybody; see quillon::viewStore. From a thread other than the event loop's.
+    [[nodiscard]] Expected<StoreSnapshot> viewStore();
+
+    // On the event loop's thread.
+
+    /// Opens the store as the one instance that lives on; fails with `timedOut` when there is one
+    /// already.
+    [[nodiscard]] Expected<AppStore*> startInstance();
+
+    /// Lets what is under way in the store end, saves, and calls `done`; at once when the store was
+    /// never opened.
+    void finish(std::function<void()> done);
+    /// What is under way in the store ends after the file that it is at.
+    void hurry();
+
+    /// Runs `work` on the event loop's thread and waits for it. From any thread.
+    void onLoop(const std::function<void()>& work) const;
 
 private:
     struct Machine;
+    struct OpenStore;
 
     [[nodiscard]] StoreSession::Services storeServices();
+    [[nodiscard]] Expected<void> open(AppStore::Life life);
 
     std::unique_ptr<Machine> machine_;
+    std::unique_ptr<OpenStore> store_; ///< on the event loop's thread alone
 };
 
 } // namespace quillon

@@ -1,0 +1,162 @@
+#include "service/StoreAccess.h"
+
+#include <QMetaObject>
+#include <QThread>
+
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+
+namespace quillon {
+namespace {
+
+constexpr std::chrono::milliseconds betweenQuestions{50};
+
+/// Something that the store's thread hands to a thread that waits for it.
+class Signal {
+public:
+    void raise() {
+        const std::scoped_lock guard(lock_);
+        isRaised_ = true;
+        raised_.notify_all();
+    }
+
+    /// Whether it was raised before `mayContinue` turned false. Lowers it again.
+    bool wait(const std::function<bool()>& mayContinue = {}) {
+        std::unique_lock guard(lock_);
+        while (!isRaised_) {
+            if (!mayContinue) {
+                raised_.wait(guard);
+                continue;
+            }
+            raised_.wait_for(guard, betweenQuestions);
+            guard.unlock();
+            const bool goesOn = mayContinue();
+            guard.lock();
+            if (!goesOn && !isRaised_)
+                return false;
+        }
+        isRaised_ = false;
+        return true;
+    }
+
+private:
+    std::mutex lock_;
+    std::condition_variable raised_;
+    bool isRaised_ = false;
+};
+
+/// What a waiting command and the store's thread share. It outlives a command that stops waiting.
+struct Waiting {
+    Signal signal;
+    std::vector<RunReport> reports; ///< on the store's thread
+    QMetaObject::Connection listening;
+};
+
+} // namespace
+
+void StoreAccess::onStoreThread(const std::function<void()>& work) const {
+    const bool isHere = store_->thread() == QThread::currentThread();
+    QMetaObject::invokeMethod(store_, work,
+                              isHere ? Qt::DirectConnection : Qt::BlockingQueuedConnection);
+}
+
+std::vector<RunReport> StoreAccess::runsOf(const std::function<void(AppStore&)>& change,
+                                           const std::function<bool()>& mayContinue) const {
+    const auto waiting = std::make_shared<Waiting>();
+    onStoreThread([&] {
+        const std::uint64_t before = store_->lastRunNumber();
+        waiting->listening = QObject::connect(store_, &AppStore::runFinished, store_,
+                                              [waiting, before](const RunReport& report) {
+                                                  if (report.number > before)
+                                                      waiting->reports.push_back(report);
+                                              });
+        change(*store_);
+        store_->afterRuns(store_->lastRunNumber(), [waiting] {
+            QObject::disconnect(waiting->listening);
+            waiting->signal.raise();
+        });
+    });
+    waiting->signal.wait(mayContinue);
+    std::vector<RunReport> reports;
+    onStoreThread([&] {
+        QObject::disconnect(waiting->listening);
+        reports = std::move(waiting->reports);
+    });
+    return reports;
+}
+
+std::vector<RunReport> StoreAccess::untilSettled(const QUuid& folderID,
+                                                 const std::function<bool()>& mayContinue) const {
+    const auto waiting = std::make_shared<Waiting>();
+    onStoreThread([&] {
+        if (!store_->isSettling(folderID))
+            return waiting->signal.raise();
+        waiting->listening =
+            QObject::connect(store_, &AppStore::runFinished, store_,
+                             [waiting, folderID, store = store_](const RunReport& report) {
+                                 if (report.folderID != folderID)
+                                     return;
+                                 waiting->reports.push_back(report);
+                                 if (!store->isSettling(folderID))
+                                     waiting->signal.raise();
+                             });
+    });
+    waiting->signal.wait(mayContinue);
+    std::vector<RunReport> reports;
+    onStoreThread([&] {
+        QObject::disconnect(waiting->listening);
+        reports = std::move(waiting->reports);
+    });
+    return reports;
+}
+
+AppStore::CleanupReport StoreAccess::runCleanup(AppStore::Cleanup cleanup) const {
+    Signal finished;
+    AppStore::CleanupReport result;
+    onStoreThread([&] {
+        store_->runCleanup(std::move(cleanup), [&](AppStore::CleanupReport report) {
+            result = std::move(report);
+            finished.raise();
+        });
+    });
+    finished.wait();
+    return result;
+}
+
+AppStore::UndoReport StoreAccess::undo(std::vector<QUuid> entryIDs, Progress progress,
+                                       std::function<bool()> mayContinue) const {
+    Signal finished;
+    AppStore::UndoReport result;
+    onStoreThread([&] {
+        store_->undo(
+            std::move(entryIDs),
+            [&](AppStore::UndoReport report) {
+                result = std::move(report);
+                finished.raise();
+            },
+            std::move(progress), std::move(mayContinue));
+    });
+    finished.wait();
+    return result;
+}
+
+AppStore::UndoReport StoreAccess::undoCleanup(const QUuid& batchID, Progress progress,
+                                              std::function<bool()> mayContinue) const {
+    Signal finished;
+    AppStore::UndoReport result;
+    onStoreThread([&] {
+        store_->undoCleanup(
+            batchID,
+            [&](AppStore::UndoReport report) {
+                result = std::move(report);
+                finished.raise();
+            },
+            std::move(progress), std::move(mayContinue));
+    });
+    finished.wait();
+    return result;
+}
+
+} // namespace quillon
