@@ -17,6 +17,7 @@ struct ActionResult {
     };
     Place place = Place::same;
     bool succeeded = true;
+    bool acted = false;      ///< something was done, perhaps by a child process that then failed
     std::string path;        ///< where the file is now, unless it is gone
     std::string copyPath;    ///< of a copy that was made
     std::string trashedPath; ///< where the trash put it, or an unpacked archive

@@ -1,5 +1,6 @@
 #include "engine/BatchRun.h"
 
+#include "engine/RunRestraint.h"
 #include "platform/FileNames.h"
 
 namespace quillon {
@@ -55,6 +56,7 @@ bool absorb(const ActionResult& result, ActionType type, LogEntry& entry) {
 BatchRun::BatchRun(const Setup& setup, const ReadyFiles& items, const std::vector<Rule>& rules,
                    const QSet<QString>& skip)
     : setup_(setup)
+    , keepsKeys_(!setup.folder.id.isNull())
     , items_(items)
     , skip_(skip)
     , kinds_(setup.platform.contentTypes)
@@ -100,10 +102,12 @@ BatchRun::Group BatchRun::take(std::size_t start) {
     group.intents.reserve(count);
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         if (matches[i].waiting)
-            result_.waiting.append(QString::fromUtf8(lastComponent(candidates[i]->path)));
+            addWaiting(*candidates[i]);
         if (!matches[i].rule)
             continue;
         const CompiledRule& rule = rules_[*matches[i].rule];
+        if (!mayAct(rule, *candidates[i]))
+            continue;
         group.taken.push_back(taken(*candidates[i], rule));
         group.intents.push_back(intent(group.taken.back()));
     }
@@ -111,13 +115,11 @@ BatchRun::Group BatchRun::take(std::size_t start) {
 }
 
 std::vector<const ListedFile*> BatchRun::unskipped(std::span<const ListedFile> files) {
-    // Keys are remembered by folder; for one without an identity nobody will.
-    const bool needsKeys = !setup_.folder.id.isNull() || !skip_.isEmpty();
     std::vector<const ListedFile*> candidates;
     candidates.reserve(files.size());
     for (const ListedFile& file : files) {
-        if (needsKeys) {
-            const QString key = fileKey(joinPath(items_.folder, file.path), file.status);
+        if (keepsKeys_ || !skip_.isEmpty()) {
+            const QString key = listedKey(file);
             result_.seenKeys.insert(key);
             if (skip_.contains(key))
                 continue;
@@ -125,6 +127,17 @@ std::vector<const ListedFile*> BatchRun::unskipped(std::span<const ListedFile> f
         candidates.push_back(&file);
     }
     return candidates;
+}
+
+void BatchRun::addWaiting(const ListedFile& file) {
+    result_.waiting.append(QString::fromUtf8(lastComponent(file.path)));
+    if (keepsKeys_)
+        result_.waitingKeys.insert(listedKey(file));
+}
+
+bool BatchRun::mayAct(const CompiledRule& rule, const ListedFile& file) const {
+    RunRestraint* const restraint = setup_.settings.restraint;
+    return !restraint || restraint->mayAct(rule.rule(), listedKey(file));
 }
 
 BatchRun::Taken BatchRun::taken(const ListedFile& file, const CompiledRule& rule) {
@@ -178,10 +191,17 @@ void BatchRun::act(Taken& taken, LogEntry& entry) {
     if (!status || !isUnchanged(*status, taken.file->status))
         return;
 
-    for (const RuleAction& action : taken.rule->rule().actions) {
+    const Rule& rule = taken.rule->rule();
+    bool acted = false;
+    bool remains = true;
+    HandledFile handled{.ruleID = rule.id};
+    for (const RuleAction& action : rule.actions) {
         context.status = *status;
         const ActionResult result = performAction(action, context);
-        const bool remains = absorb(result, action.type, entry);
+        remains = absorb(result, action.type, entry);
+        acted = acted || result.acted;
+        if (keepsKeys_ && !result.copyPath.empty())
+            handled.copyKeys.append(currentKey(result.copyPath));
         if (!result.phrases.isEmpty()) {
             entry.date = setup_.platform.clock.now();
             setup_.journal.record(entry);
@@ -190,7 +210,7 @@ void BatchRun::act(Taken& taken, LogEntry& entry) {
             break;
         if (result.place == ActionResult::Place::moved)
             context.path = result.path;
-        if (&action != &taken.rule->rule().actions.back())
+        if (&action != &rule.actions.back())
             status = fileSystem.status(context.path);
         if (!status) {
             if (status.error().kind != ErrorKind::notFound)
@@ -200,6 +220,21 @@ void BatchRun::act(Taken& taken, LogEntry& entry) {
     }
     if (!entry.actionSummary.isEmpty())
         result_.entries.push_back(std::move(entry));
+    if (!keepsKeys_ || !acted)
+        return;
+    handled.keyBefore = listedKey(*taken.file);
+    if (remains)
+        handled.keyAfter = currentKey(context.path);
+    result_.handled.push_back(std::move(handled));
+}
+
+QString BatchRun::listedKey(const ListedFile& file) const {
+    return fileKey(joinPath(items_.folder, file.path), file.status);
+}
+
+QString BatchRun::currentKey(const std::string& path) const {
+    const Expected<FileStatus> status = setup_.platform.fileSystem.status(path);
+    return status ? fileKey(path, *status) : QString();
 }
 
 void BatchRun::report(std::size_t done) const {

@@ -50,12 +50,17 @@ private:
 
     [[nodiscard]] Group take(std::size_t start);
     [[nodiscard]] std::vector<const ListedFile*> unskipped(std::span<const ListedFile> files);
+    [[nodiscard]] bool mayAct(const CompiledRule& rule, const ListedFile& file) const;
+    void addWaiting(const ListedFile& file);
     [[nodiscard]] Taken taken(const ListedFile& file, const CompiledRule& rule);
     [[nodiscard]] Intent intent(const Taken& taken) const;
     void act(Taken& taken, LogEntry& entry);
+    [[nodiscard]] QString listedKey(const ListedFile& file) const;
+    [[nodiscard]] QString currentKey(const std::string& path) const;
     void report(std::size_t done) const;
 
     Setup setup_;
+    bool keepsKeys_; ///< keys are remembered by folder: for one without an identity nobody will
     const ReadyFiles& items_;
     const QSet<QString>& skip_;
     std::vector<CompiledRule> rules_;

@@ -191,4 +191,8 @@ QString fileKey(const std::string& path, const FileStatus& status) {
            QString::number(status.modified.time_since_epoch().count());
 }
 
+QString keyPath(const QString& key) {
+    return key.section(u'|', 0, -3);
+}
+
 } // namespace quillon

@@ -64,4 +64,7 @@ private:
 /// Path, size and modification date of a file: the same file, unchanged, has the same key.
 [[nodiscard]] QString fileKey(const std::string& path, const FileStatus& status);
 
+/// The path in a file's key.
+[[nodiscard]] QString keyPath(const QString& key);
+
 } // namespace quillon

@@ -14,13 +14,12 @@
 
 namespace quillon {
 
-/// A file that a rule has acted on and that can still be seen somewhere.
+/// A file that a rule has acted on.
 struct HandledFile {
     QUuid ruleID;
-    QString keyBefore;  ///< the file's key as listed
-    QString keyAfter;   ///< its key where it is now; see fileKey
-    std::string path;   ///< where it is now
-    bool acted = false; ///< something was done, as opposed to failing altogether
+    QString keyBefore = {};    ///< the file's key as listed; see fileKey
+    QString keyAfter = {};     ///< its key where it is now; empty when it is gone
+    QStringList copyKeys = {}; ///< the keys of the copies that were made of it
 
     bool operator==(const HandledFile&) const = default;
 };
@@ -32,7 +31,7 @@ struct RunResult {
     QSet<QString> seenKeys;
     QStringList waiting;              ///< names of files that wait for the assistant
     QSet<QString> waitingKeys;        ///< of those files; empty for a folder without an identity
-    std::vector<HandledFile> handled; ///< likewise
+    std::vector<HandledFile> handled; ///< where something was done; empty likewise
     bool interrupted = false;         ///< EngineSettings::mayContinue ended the run early
     /// Set when the journal could not be written and the run ended early.
     std::optional<Error> stopped;

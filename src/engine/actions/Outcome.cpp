@@ -13,11 +13,13 @@ ActionResult nothingHappened(const ActionContext& context) {
 ActionResult happened(const ActionContext& context, const QString& phrase) {
     ActionResult result = nothingHappened(context);
     result.phrases.append(phrase);
+    result.acted = true;
     return result;
 }
 
 ActionResult failed(const ActionContext& context, const QString& phrase) {
-    ActionResult result = happened(context, phrase);
+    ActionResult result = nothingHappened(context);
+    result.phrases.append(phrase);
     result.succeeded = false;
     return result;
 }

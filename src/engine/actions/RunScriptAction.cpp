@@ -14,12 +14,16 @@ ActionResult performScript(const RuleAction& action, const ActionContext& contex
         .timeout = context.settings.scriptTimeout,
         .mayContinue = context.settings.mayContinue,
     };
-    const auto problem = childFailure(context.platform.processes.run(request), request.timeout);
+    const Expected<ProcessResult> ended = context.platform.processes.run(request);
+    const auto problem = childFailure(ended, request.timeout);
     if (!problem)
         return happened(context, QStringLiteral("ran script"));
-    return failed(context, QStringLiteral("script failed") +
-                               (problem->isEmpty() ? QStringLiteral(" (exited non-zero)")
-                                                   : QStringLiteral(": ") + *problem));
+    ActionResult result =
+        failed(context, QStringLiteral("script failed") +
+                            (problem->isEmpty() ? QStringLiteral(" (exited non-zero)")
+                                                : QStringLiteral(": ") + *problem));
+    result.acted = ended.has_value();
+    return result;
 }
 
 } // namespace quillon

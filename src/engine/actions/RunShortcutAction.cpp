@@ -16,33 +16,35 @@ QString nameProblem(const QString& name) {
     return isComponent ? QString() : QStringLiteral("a shortcut is a name, not a path");
 }
 
-QString runShortcut(const QString& name, const ActionContext& context) {
+Expected<ProcessResult> runShortcut(const QString& name, const ActionContext& context) {
     const std::string folder = joinPath(context.platform.folders.data, "shortcuts");
-    const ProcessRequest request{
+    return context.platform.processes.run({
         .executable = joinPath(folder, name.toStdString()),
         .arguments = {"-i", context.path},
         .environment = {},
         .workingFolder = std::string(parentPath(context.path)),
         .timeout = context.settings.scriptTimeout,
         .mayContinue = context.settings.mayContinue,
-    };
-    const auto problem = childFailure(context.platform.processes.run(request), request.timeout);
-    if (problem && problem->isEmpty())
-        return QStringLiteral("exited non-zero");
-    return problem.value_or(QString());
+    });
 }
 
 } // namespace
 
 ActionResult performShortcut(const RuleAction& action, const ActionContext& context) {
     const QString name = action.shortcutName.value_or(QString());
-    QString problem = nameProblem(name);
-    if (problem.isEmpty())
-        problem = runShortcut(name, context);
     const QString quoted = QStringLiteral("shortcut “%1”").arg(name);
-    if (!problem.isEmpty())
-        return failed(context, quoted + QStringLiteral(" failed: ") + problem);
-    return happened(context, QStringLiteral("ran ") + quoted);
+    const QString failure = quoted + QStringLiteral(" failed: ");
+    if (const QString problem = nameProblem(name); !problem.isEmpty())
+        return failed(context, failure + problem);
+
+    const Expected<ProcessResult> ended = runShortcut(name, context);
+    const auto problem = childFailure(ended, context.settings.scriptTimeout);
+    if (!problem)
+        return happened(context, QStringLiteral("ran ") + quoted);
+    ActionResult result = failed(
+        context, failure + (problem->isEmpty() ? QStringLiteral("exited non-zero") : *problem));
+    result.acted = ended.has_value();
+    return result;
 }
 
 } // namespace quillon
