@@ -2,6 +2,18 @@
 
 namespace quillon {
 
+bool isDate(ConditionAttribute attribute) {
+    switch (attribute) {
+    case ConditionAttribute::dateModified:
+    case ConditionAttribute::dateAdded:
+    case ConditionAttribute::dateCreated:
+    case ConditionAttribute::lastOpened:
+        return true;
+    default:
+        return false;
+    }
+}
+
 std::vector<MatchOperator> allowedOperators(ConditionAttribute attribute) {
     using enum MatchOperator;
     switch (attribute) {

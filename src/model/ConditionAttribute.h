@@ -42,6 +42,9 @@ inline constexpr auto rawValues<ConditionAttribute> = std::to_array<std::u16stri
 template <>
 inline constexpr std::u16string_view rawValueNoun<ConditionAttribute> = u"an attribute";
 
+/// Whether it looks at a date, so that a file may come to match, or cease to, with time alone.
+[[nodiscard]] bool isDate(ConditionAttribute attribute);
+
 /// The operators that people and the rule writer may choose, in the order in which they are
 /// offered. A record may hold another one; it is then up to matching what that means.
 [[nodiscard]] std::vector<MatchOperator> allowedOperators(ConditionAttribute attribute);

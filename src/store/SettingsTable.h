@@ -2,6 +2,8 @@
 
 #include "platform/Settings.h"
 
+#include <QString>
+
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -16,6 +18,7 @@ struct Setting {
     std::u16string_view defaultValue; ///< "true", "5", "…": as stored
     std::u16string_view meaning;      ///< one line for people
     bool isShown = true;              ///< a person may set it; otherwise it is our own bookkeeping
+    std::span<const std::u16string_view> choices = {}; ///< of a text that can't be just anything
 };
 
 /// Every setting there is, in the order in which people see them.
