@@ -1,7 +1,8 @@
 #include "cli/CommandLine.h"
 
-#include "model/NearestWord.h"
 #include "cli/VerbTable.h"
+#include "model/NearestWord.h"
+#include "service/CommandThread.h"
 
 #include <optional>
 #include <span>
@@ -77,6 +78,16 @@ Answer answerWithoutVerb(std::span<const std::string> arguments) {
     return parse(app, arguments).value_or(Answer{app.help(), ExitCode::usage});
 }
 
+ExitCode give(const Answer& answer, const Console& console) {
+    (answer.code == ExitCode::done ? console.out : console.err) << answer.text;
+    return answer.code;
+}
+
+ExitCode carryOut(const Command& command, const Console& console, const UserFolders& folders) {
+    Services services(folders);
+    return onCommandThread(services, [&] { return command(console, services); });
+}
+
 } // namespace
 
 std::variant<Command, Answer> parseCommandLine(const std::vector<std::string>& arguments) {
@@ -103,17 +114,20 @@ std::variant<Command, Answer> parseCommandLine(const std::vector<std::string>& a
     return parser.command;
 }
 
+ExitCode carryOutCommandLine(const std::vector<std::string>& arguments, const Console& console,
+                             Services& services) {
+    const auto parsed = parseCommandLine(arguments);
+    if (const auto* answer = std::get_if<Answer>(&parsed))
+        return give(*answer, console);
+    return std::get<Command>(parsed)(console, services);
+}
+
 ExitCode runCommandLine(const std::vector<std::string>& arguments, const Console& console,
                         const std::function<UserFolders()>& folders) {
     const auto parsed = parseCommandLine(arguments);
-    ExitCode code = ExitCode::done;
-    if (const auto* answer = std::get_if<Answer>(&parsed)) {
-        (answer->code == ExitCode::done ? console.out : console.err) << answer->text;
-        code = answer->code;
-    } else {
-        Services services(folders());
-        code = std::get<Command>(parsed)(console, services);
-    }
+    const auto* answer = std::get_if<Answer>(&parsed);
+    const ExitCode code =
+        answer ? give(*answer, console) : carryOut(std::get<Command>(parsed), console, folders());
     console.out.flush();
     console.err.flush();
     if (console.out || code != ExitCode::done)

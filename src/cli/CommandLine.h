@@ -24,7 +24,11 @@ struct Answer {
 [[nodiscard]] std::variant<Command, Answer>
 parseCommandLine(const std::vector<std::string>& arguments);
 
-/// Parses and carries out. `folders` is asked only when a verb needs them.
+/// Parses and carries out in this process, on a thread other than that of the event loop.
+[[nodiscard]] ExitCode carryOutCommandLine(const std::vector<std::string>& arguments,
+                                           const Console& console, Services& services);
+
+/// Parses and carries out, as a whole process does, on its first thread. `folders` is asked only when a verb needs them.
 [[nodiscard]] ExitCode runCommandLine(const std::vector<std::string>& arguments,
                                       const Console& console,
                                       const std::function<UserFolders()>& folders);

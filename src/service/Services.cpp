@@ -206,6 +206,21 @@ void Services::hurry() {
         store_->store.hurry();
 }
 
+void Services::close() {
+    store_.reset();
+}
+
+void Services::stopRequested() {
+    if (stopHandler_)
+        stopHandler_();
+    else
+        hurry();
+}
+
+void Services::setStopHandler(std::function<void()> handler) {
+    stopHandler_ = std::move(handler);
+}
+
 void Services::onLoop(const std::function<void()>& work) const {
     const bool isHere = machine_->loop.thread() == QThread::currentThread();
     QMetaObject::invokeMethod(&machine_->loop, work,

@@ -45,6 +45,12 @@ public:
     void finish(std::function<void()> done);
     /// What is under way in the store ends after the file that it is at.
     void hurry();
+    /// Lets the store go. Its thread waits for work that has not ended.
+    void close();
+
+    /// Called when this process is asked to end. Unless a handler has been set, the store hurries.
+    void stopRequested();
+    void setStopHandler(std::function<void()> handler);
 
     /// Runs `work` on the event loop's thread and waits for it. From any thread.
     void onLoop(const std::function<void()>& work) const;
@@ -58,6 +64,7 @@ private:
 
     std::unique_ptr<Machine> machine_;
     std::unique_ptr<OpenStore> store_; ///< on the event loop's thread alone
+    std::function<void()> stopHandler_;
 };
 
 } // namespace quillon

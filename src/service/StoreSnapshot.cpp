@@ -9,7 +9,8 @@ StoreSnapshot snapshotOf(const AppStore& store) {
                                      .isPaused = store.isPaused()},
                            .access = store.folderAccess(),
                            .watchWarnings = store.watchWarnings(),
-                           .lastSaveError = store.lastSaveError()};
+                           .lastSaveError = store.lastSaveError(),
+                           .lastScheduledRun = store.lastScheduledRun()};
     for (const WatchedFolder& folder : snapshot.state.folders)
         if (store.isSettling(folder.id))
             snapshot.settling.insert(folder.id);
