@@ -1,12 +1,13 @@
 #pragma once
 
-#include "engine/RunRestraint.h"
 #include "engine/RunResult.h"
 #include "model/WatchedFolder.h"
+#include "store/FolderDeeds.h"
+#include "store/FolderRestraint.h"
+#include "store/RingWatch.h"
 
 #include <QByteArray>
 #include <QHash>
-#include <QSet>
 #include <QString>
 
 #include <memory>
@@ -19,17 +20,18 @@ namespace quillon {
 /// the third lap. One thread; a restraint is a copy that another thread may use.
 class RunMemory {
 public:
-    /// For an automatic run of the folder. Entries for the files that it stopped because they go
-    /// round in a ring come out of absorb().
-    [[nodiscard]] std::unique_ptr<RunRestraint> restraint(const WatchedFolder& folder) const;
+    /// For an automatic run of the folder.
+    [[nodiscard]] std::unique_ptr<FolderRestraint> restraint(const WatchedFolder& folder) const;
 
-    /// Takes in what a run, automatic or asked for, has done. `now` is the date of the error
-    /// entries that are returned: one for each file that has been stopped in a ring just now,
-    /// naming the rules and their folders.
+    /// Takes in what a run of the folder, with these rules, has done: an automatic one with its
+    /// restraint, one that the user asked for without any. `now` is the date of the error entries
+    /// that are returned: one for each file that was stopped in a ring, naming the rules and their
+    /// folders. Later runs leave such a file alone without a word.
     [[nodiscard]] std::vector<LogEntry> absorb(const WatchedFolder& folder, const RunResult& run,
-                                               const RunRestraint* restraint, Timestamp now);
+                                               const FolderRestraint* restraint, Timestamp now);
 
-    /// Drops what is remembered of folders that are not among these.
+    /// To be told the watched folders at the start and whenever they change: files are followed
+    /// from one of them to another, and what is remembered of any other is dropped.
     void keepOnly(const std::vector<WatchedFolder>& folders);
 
     /// What outlives the process: the files that were acted on, not the laps.
@@ -40,6 +42,25 @@ public:
     [[nodiscard]] bool hasChanged() const { return changed_; }
 
 private:
+    struct Place {
+        QString path; ///< without a slash at its end
+        bool isRecursive = false;
+
+        [[nodiscard]] bool holds(QStringView file) const;
+    };
+    [[nodiscard]] static Place placeOf(const WatchedFolder& folder);
+    [[nodiscard]] bool liesInAnother(QStringView file, const QUuid& folderID) const;
+
+    void handle(const HandledFile& file, const RingParty& party, bool isAutomatic, Timestamp now);
+    void stopRing(const WatchedFolder& folder, const Rule& rule, const RingParty& party,
+                  const QString& fileKey, Timestamp now, std::vector<LogEntry>& entries);
+    void prune(const QUuid& folderID, const RunResult& run, const QSet<std::uint64_t>& rules,
+               Timestamp now);
+
+    QHash<QUuid, FolderDeeds> deeds_;
+    RingWatch rings_;
+    QHash<QUuid, Place> places_;
+    QHash<QUuid, QHash<std::uint64_t, QString>> names_; ///< of rules, as a person is told of them
     mutable bool changed_ = false;
 };
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "engine/RunRestraint.h"
+#include "model/WatchedFolder.h"
+#include "store/FolderDeeds.h"
+#include "store/RingWatch.h"
+
+#include <QHash>
+#include <QString>
+#include <QUuid>
+
+#include <vector>
+
+namespace quillon {
+
+/// What one automatic run of a folder must leave alone, as it was known when the run began.
+class FolderRestraint final : public RunRestraint {
+public:
+    FolderRestraint(const WatchedFolder& folder, FolderDeeds deeds, RingWatch rings);
+
+    [[nodiscard]] bool mayAct(const Rule& rule, const QString& fileKey) override;
+
+    /// A file that was refused because rules hand it round.
+    struct Stop {
+        QUuid ruleID;
+        QString fileKey;
+    };
+    [[nodiscard]] const std::vector<Stop>& stops() const { return stops_; }
+
+private:
+    QUuid folderID_;
+    QHash<QUuid, std::uint64_t> rules_; ///< hashes by id
+    FolderDeeds deeds_;
+    RingWatch rings_;
+    std::vector<Stop> stops_;
+};
+
+} // namespace quillon
