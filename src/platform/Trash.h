@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Error.h"
+#include "platform/FileSystem.h"
 
 #include <string>
 
@@ -15,10 +15,10 @@ public:
     /// `unsupported` where that file system has no trash and none can be made.
     [[nodiscard]] virtual Expected<std::string> put(const std::string& path) = 0;
 
-    /// Takes a file back out, to `wanted` or a numbered name beside it, with its record, and
-    /// returns where it lies now.
-    [[nodiscard]] virtual Expected<std::string> restore(const std::string& trashedPath,
-                                                        const std::string& wanted) = 0;
+    /// Takes a file back out, to `wanted` or a numbered name beside it, with its record; as
+    /// FileSystem::move, but the folder is made where there is none.
+    [[nodiscard]] virtual Expected<Placement> restore(const std::string& trashedPath,
+                                                      const std::string& wanted) = 0;
 };
 
 } // namespace quillon

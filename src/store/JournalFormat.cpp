@@ -41,12 +41,18 @@ class Reader {
 public:
     void readLine(const QByteArray& line, bool isCutShort) {
         const QJsonObject record = QJsonDocument::fromJson(line).object();
-        const bool understood = readHeader(record) || readIntent(record) || readOutcome(record);
+        const bool understood = readHeader(record) || readIntent(record, "intent"_L1, false) ||
+                                readIntent(record, "undo"_L1, true) || readOutcome(record) ||
+                                readLaunch(record) || readSaved(record);
         if (!understood && !isCutShort)
             ++contents_.unreadableLines;
     }
 
-    JournalContents take() { return std::move(contents_); }
+    JournalContents take() {
+        std::erase_if(contents_.files,
+                      [this](const JournalledFile& file) { return saved_.contains(file.run); });
+        return std::move(contents_);
+    }
 
 private:
     bool readHeader(const QJsonObject& record) {
@@ -56,18 +62,22 @@ private:
         return true;
     }
 
-    bool readIntent(const QJsonObject& record) {
-        if (!record.contains("intent"_L1))
+    static QUuid runOf(const QJsonObject& record) { return QUuid(record["run"_L1].toString()); }
+
+    bool readIntent(const QJsonObject& record, QLatin1StringView key, bool isUndo) {
+        if (!record.contains(key))
             return false;
-        auto entry = logEntryFromJson(JsonReader(record["intent"_L1]), Timestamp{});
+        auto entry = logEntryFromJson(JsonReader(record[key]), Timestamp{});
         if (!entry || !entry->originalPath)
             return false;
         JournalledFile file;
+        file.run = runOf(record);
+        file.isUndo = isUndo;
         file.intent.entry = std::move(*entry);
         file.intent.status = statusFromJson(record["file"_L1]);
         for (const QJsonValue& folder : record["folders"_L1].toArray())
             file.intent.targetFolders.push_back(folder.toString().toStdString());
-        positions_.insert(file.intent.entry.id, contents_.files.size());
+        positions_.insert({file.run, file.intent.entry.id}, contents_.files.size());
         contents_.files.push_back(std::move(file));
         return true;
     }
@@ -78,7 +88,7 @@ private:
         auto outcome = logEntryFromJson(JsonReader(record["outcome"_L1]), Timestamp{});
         if (!outcome)
             return false;
-        const auto position = positions_.constFind(outcome->id);
+        const auto position = positions_.constFind({runOf(record), outcome->id});
         if (position == positions_.cend())
             return false;
         JournalledFile& file = contents_.files[*position];
@@ -93,8 +103,25 @@ private:
         return true;
     }
 
+    bool readLaunch(const QJsonObject& record) {
+        if (!record.contains("launch"_L1))
+            return false;
+        contents_.isLaunchNoted = true;
+        return true;
+    }
+
+    bool readSaved(const QJsonObject& record) {
+        if (!record.contains("saved"_L1))
+            return false;
+        for (const QJsonValue& run : record["saved"_L1].toArray())
+            saved_.insert(QUuid(run.toString()));
+        contents_.isLaunchNoted = false;
+        return true;
+    }
+
     JournalContents contents_;
-    QHash<QUuid, std::size_t> positions_;
+    QHash<std::pair<QUuid, QUuid>, std::size_t> positions_; ///< by run and entry
+    QSet<QUuid> saved_;
 };
 
 } // namespace
@@ -103,8 +130,8 @@ void writeJournalHeader(JsonStream& json, std::string_view temporaryTag) {
     json.beginRecord().beginObject().key("temporaryTag").text(temporaryTag).endObject().breakLine();
 }
 
-void writeIntent(JsonStream& json, const Intent& intent) {
-    json.beginRecord().beginObject().key("intent");
+void writeIntent(JsonStream& json, const QUuid& run, const Intent& intent, bool isUndo) {
+    json.beginRecord().beginObject().key("run").id(run).key(isUndo ? "undo" : "intent");
     writeLogEntry(json, intent.entry, DateForm::stored);
     json.key("file").beginObject();
     json.key("device").integer(static_cast<std::int64_t>(intent.status.device));
@@ -120,8 +147,8 @@ void writeIntent(JsonStream& json, const Intent& intent) {
 }
 
 // Only what an action can change: the rest is in the intent.
-void writeOutcome(JsonStream& json, const LogEntry& entry) {
-    json.beginRecord().beginObject().key("outcome").beginObject();
+void writeOutcome(JsonStream& json, const QUuid& run, const LogEntry& entry) {
+    json.beginRecord().beginObject().key("run").id(run).key("outcome").beginObject();
     json.key("id").id(entry.id).key("date").real(jsonDate(entry.date));
     json.key("actionSummary").text(entry.actionSummary);
     json.key("isError").truth(entry.isError).key("undoable").truth(entry.undoable);
@@ -130,6 +157,17 @@ void writeOutcome(JsonStream& json, const LogEntry& entry) {
     if (entry.trashedPath)
         json.key("trashedPath").text(*entry.trashedPath);
     json.endObject().endObject().breakLine();
+}
+
+void writeLaunch(JsonStream& json) {
+    json.beginRecord().beginObject().key("launch").truth(true).endObject().breakLine();
+}
+
+void writeSaved(JsonStream& json, const QSet<QUuid>& runs) {
+    json.beginRecord().beginObject().key("saved").beginList();
+    for (const QUuid& run : runs)
+        json.id(run);
+    json.endList().endObject().breakLine();
 }
 
 JournalContents readJournal(const QByteArray& bytes) {

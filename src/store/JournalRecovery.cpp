@@ -1,10 +1,13 @@
 #include "store/JournalRecovery.h"
 
 #include "platform/FileNames.h"
+#include "store/Sentences.h"
 
 #include <QSet>
 
+#include <algorithm>
 #include <map>
+#include <span>
 #include <unordered_map>
 
 namespace quillon {
@@ -19,12 +22,11 @@ void addPhrase(LogEntry& entry, const QString& phrase) {
     entry.actionSummary += phrase;
 }
 
-/// Whether what stands there now is the file that the run was about to handle. A move to another
-/// device makes a new file; its size and date, which a copy keeps to the nanosecond, tell it.
+/// Clocks and file systems round differently.
+constexpr std::chrono::seconds roundingSlack{2};
+
 bool isTheFile(const FileStatus& found, const FileStatus& intended) {
-    if (found.device != intended.device)
-        return found.size == intended.size && found.modified == intended.modified;
-    if (found.inode != intended.inode)
+    if (!found.isSameFileAs(intended))
         return false;
     // The number of a file that is gone is given to new ones.
     if (found.created && intended.created)
@@ -32,22 +34,115 @@ bool isTheFile(const FileStatus& found, const FileStatus& intended) {
     return found.modified == intended.modified;
 }
 
+/// A copy, or a move to another device, makes a new file that keeps the date to the nanosecond.
+bool isLike(const FileStatus& found, const FileStatus& intended) {
+    return !found.isSameFileAs(intended) && found.size == intended.size &&
+           found.modified == intended.modified;
+}
+
+bool cameAfter(const FileStatus& found, const LogEntry& entry) {
+    return found.created && *found.created >= entry.date - roundingSlack;
+}
+
+/// Finds files again in the folders where they may have been put. Each folder is listed once,
+/// however many files are looked for in it.
+class Finder {
+public:
+    explicit Finder(const FileSystem& fileSystem) : fileSystem_(fileSystem) {}
+
+    /// Whether the file stands at `path`, however it looks now.
+    bool stands(const std::string& path, const Intent& intent) const {
+        const Expected<FileStatus> status = fileSystem_.status(path);
+        return status && isTheFile(*status, intent.status);
+    }
+
+    /// Where the file, which is gone from its place, is now.
+    std::optional<std::string> find(const std::vector<std::string>& folders, const Intent& intent) {
+        for (const std::string& folder : folders)
+            for (const ListedFile* file : like(contents(folder).byInode, intent.status.inode))
+                if (isTheFile(file->status, intent.status))
+                    return joinPath(folder, file->path);
+        return findCopy(folders, intent, [&](const FileStatus& found) {
+            return found.device != intent.status.device && !found.created;
+        });
+    }
+
+    /// Where a copy of it is that has come into being since; `mayBe` says what else is taken for
+    /// one. Among several only one that kept the name is believed.
+    template <typename MayBe>
+    std::optional<std::string> findCopy(const std::vector<std::string>& folders,
+                                        const Intent& intent, MayBe mayBe) {
+        const std::string original = intent.entry.originalPath->toStdString();
+        const std::string_view stem = splitName(lastComponent(original)).stem;
+        std::set<std::string> found;
+        for (const std::string& folder : folders)
+            for (const ListedFile* file : like(contents(folder).byDate, ticks(intent.status))) {
+                const std::string path = joinPath(folder, file->path);
+                if (!isLike(file->status, intent.status) || path == original)
+                    continue;
+                if (!cameAfter(file->status, intent.entry) && !mayBe(file->status))
+                    continue;
+                if (file->path.starts_with(stem))
+                    return path;
+                found.insert(path);
+            }
+        return found.size() == 1 ? std::optional(*found.begin()) : std::nullopt;
+    }
+
+private:
+    template <typename Key>
+    using Index = std::unordered_map<Key, std::vector<const ListedFile*>>;
+    struct Contents {
+        std::vector<ListedFile> files;
+        Index<std::uint64_t> byInode;
+        Index<std::int64_t> byDate;
+    };
+
+    static std::int64_t ticks(const FileStatus& status) {
+        return status.modified.time_since_epoch().count();
+    }
+
+    template <typename Key>
+    static std::span<const ListedFile* const> like(const Index<Key>& index, Key key) {
+        const auto found = index.find(key);
+        return found == index.end() ? std::span<const ListedFile* const>{}
+                                    : std::span<const ListedFile* const>(found->second);
+    }
+
+    const Contents& contents(const std::string& folder) {
+        auto [known, isNew] = folders_.try_emplace(folder);
+        Contents& contents = known->second;
+        if (!isNew)
+            return contents;
+        if (auto listing = fileSystem_.list(folder, {}))
+            contents.files = std::move(listing->files);
+        for (const ListedFile& file : contents.files) {
+            contents.byInode[file.status.inode].push_back(&file);
+            contents.byDate[ticks(file.status)].push_back(&file);
+        }
+        return contents;
+    }
+
+    const FileSystem& fileSystem_;
+    std::map<std::string, Contents> folders_;
+};
+
 class Recovery {
 public:
     Recovery(const FileSystem& fileSystem, const TrashPlaces& trashPlaces)
-        : fileSystem_(fileSystem), trashPlaces_(trashPlaces) {}
+        : finder_(fileSystem), fileSystem_(fileSystem), trashPlaces_(trashPlaces) {}
 
     std::optional<LogEntry> entryOf(const JournalledFile& file) {
-        const std::string place = lastKnownPlace(file.intent.entry);
-        const Expected<FileStatus> standing = fileSystem_.status(place);
-        if (standing && isTheFile(*standing, file.intent.status))
-            return soFar(file);
-        if (const auto found = search(file.intent.targetFolders, file.intent))
+        const Intent& intent = file.intent;
+        const std::string place = lastKnownPlace(intent.entry);
+        if (finder_.stands(place, intent))
+            return whereItStands(file);
+        if (const auto found = finder_.find(intent.targetFolders, intent))
             return movedTo(file, *found);
-        const std::string folder(parentPath(file.intent.entry.originalPath->toStdString()));
-        if (const auto found = search(trashPlaces_(folder), file.intent))
+        const std::string folder(parentPath(intent.entry.originalPath->toStdString()));
+        if (const auto found = finder_.find(trashPlaces_(folder), intent))
             return trashedAt(file, *found);
-        return standing ? soFar(file) : std::optional(lost(file));
+        return fileSystem_.status(place) ? soFar(file) : std::optional(lost(file));
     }
 
 private:
@@ -63,41 +158,21 @@ private:
         return file.hasOutcome ? std::optional(file.intent.entry) : std::nullopt;
     }
 
-    std::optional<std::string> search(const std::vector<std::string>& folders,
-                                      const Intent& intent) {
-        const QString original = *intent.entry.originalPath;
-        const std::string path = original.toStdString();
-        const std::string_view stem = splitName(lastComponent(path)).stem;
-        for (const std::string& folder : folders)
-            for (const ListedFile* candidate : candidates(folder, intent.status)) {
-                const bool renamed = !candidate->path.starts_with(stem);
-                if (isTheFile(candidate->status, intent.status) &&
-                    (candidate->status.device == intent.status.device || !renamed))
-                    return joinPath(folder, candidate->path);
-            }
+    std::optional<LogEntry> whereItStands(const JournalledFile& file) {
+        if (file.hasOutcome)
+            return file.intent.entry;
+        const auto none = [](const FileStatus&) { return false; };
+        if (const auto copy = finder_.findCopy(file.intent.targetFolders, file.intent, none))
+            return copiedTo(file, *copy);
         return std::nullopt;
     }
 
-    /// The folder is listed once however many files are looked for in it.
-    const std::vector<const ListedFile*>& candidates(const std::string& folder,
-                                                     const FileStatus& wanted) {
-        static const std::vector<const ListedFile*> none;
-        auto [known, isNew] = folders_.try_emplace(folder);
-        Contents& contents = known->second;
-        if (isNew) {
-            if (auto listing = fileSystem_.list(folder, {}))
-                contents.files = std::move(listing->files);
-            for (const ListedFile& file : contents.files) {
-                contents.byInode[file.status.inode].push_back(&file);
-                contents.byDate[file.status.modified.time_since_epoch().count()].push_back(&file);
-            }
-        }
-        const auto sameFile = contents.byInode.find(wanted.inode);
-        if (sameFile != contents.byInode.end() &&
-            sameFile->second.front()->status.device == wanted.device)
-            return sameFile->second;
-        const auto sameDate = contents.byDate.find(wanted.modified.time_since_epoch().count());
-        return sameDate == contents.byDate.end() ? none : sameDate->second;
+    static LogEntry copiedTo(const JournalledFile& file, const std::string& path) {
+        LogEntry entry = file.intent.entry;
+        const QString folder = QString::fromUtf8(lastComponent(parentPath(path)));
+        addPhrase(entry, u"copied to %1, then interrupted"_s.arg(folder));
+        entry.currentPath = QString::fromUtf8(path);
+        return entry;
     }
 
     static LogEntry movedTo(const JournalledFile& file, const std::string& path) {
@@ -130,14 +205,9 @@ private:
         return entry;
     }
 
-    struct Contents {
-        std::vector<ListedFile> files;
-        std::unordered_map<std::uint64_t, std::vector<const ListedFile*>> byInode;
-        std::unordered_map<std::int64_t, std::vector<const ListedFile*>> byDate;
-    };
+    Finder finder_;
     const FileSystem& fileSystem_;
     const TrashPlaces& trashPlaces_;
-    std::map<std::string, Contents> folders_;
 };
 
 } // namespace
@@ -147,23 +217,45 @@ std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
                                        const FileSystem& fileSystem,
                                        const TrashPlaces& trashPlaces) {
     // All of a run enters the log at once. When some of it is there, the state file was saved and
-    // only the journal's end was missing; the entries that are not there are past the log's cap or
-    // have been undone.
+    // only the mark in the journal was missing; the entries that are not there are past the log's
+    // cap or have been undone.
     QSet<QUuid> known;
     for (const LogEntry& entry : logs)
         known.insert(entry.id);
-    const auto isKnown = [&](const JournalledFile& file) {
-        return known.contains(file.intent.entry.id);
-    };
-    if (std::ranges::any_of(journal.files, isKnown))
-        return {};
+    QSet<QUuid> savedRuns;
+    for (const JournalledFile& file : journal.files)
+        if (!file.isUndo && known.contains(file.intent.entry.id))
+            savedRuns.insert(file.run);
 
     Recovery recovery(fileSystem, trashPlaces);
     std::vector<LogEntry> entries;
     for (const JournalledFile& file : journal.files)
-        if (auto entry = recovery.entryOf(file))
-            entries.push_back(std::move(*entry));
+        if (!file.isUndo && !savedRuns.contains(file.run))
+            if (auto entry = recovery.entryOf(file))
+                entries.push_back(std::move(*entry));
     return entries;
+}
+
+std::size_t dropTakenBack(const JournalContents& journal, std::vector<LogEntry>& logs,
+                          const FileSystem& fileSystem) {
+    Finder finder(fileSystem);
+    const auto none = [](const FileStatus&) { return false; };
+    std::size_t dropped = 0;
+    for (const JournalledFile& file : journal.files) {
+        const Intent& intent = file.intent;
+        const auto logged = std::ranges::find(logs, intent.entry.id, &LogEntry::id);
+        if (!file.isUndo || logged == logs.end())
+            continue;
+        const QString place = logged->currentPath.value_or(logged->trashedPath.value_or(QString()));
+        const bool isThere = !file.hasOutcome && finder.stands(place.toStdString(), intent);
+        if (file.hasOutcome || (!isThere && finder.find(intent.targetFolders, intent))) {
+            logs.erase(logged);
+            ++dropped;
+        } else if (const auto copy = finder.findCopy(intent.targetFolders, intent, none); copy) {
+            addPhrase(*logged, u"undoing was interrupted: a copy is at %1"_s.arg(pathText(*copy)));
+        }
+    }
+    return dropped;
 }
 
 std::set<std::string> touchedFolders(const JournalContents& journal) {

@@ -18,12 +18,18 @@ using TrashPlaces = std::function<std::vector<std::string>(const std::string& fo
 /// nothing on the disk.
 ///
 /// A file that nothing has happened to gives no entry. One that has moved gives an entry from which
-/// the move can be undone; one that can't be found gives an error. Entries whose run is in `logs`
-/// already are not given again.
+/// the move can be undone; one that can't be found gives an error. Runs of which anything is in
+/// `logs` already are passed over.
 [[nodiscard]] std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
                                                      const std::vector<LogEntry>& logs,
                                                      const FileSystem& fileSystem,
                                                      const TrashPlaces& trashPlaces);
+
+/// Drops the entries that an interrupted undo had taken back already, and returns how many: those
+/// whose files are no longer where the entry says, but back. Where a copy was made and the file is
+/// still in its place, the entry says so.
+std::size_t dropTakenBack(const JournalContents& journal, std::vector<LogEntry>& logs,
+                          const FileSystem& fileSystem);
 
 /// The folders in which the run may have left hidden temporaries.
 [[nodiscard]] std::set<std::string> touchedFolders(const JournalContents& journal);

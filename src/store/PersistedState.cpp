@@ -39,6 +39,23 @@ Expected<QHash<QString, QSet<QString>>> processedFromJson(const JsonReader& json
 
 } // namespace
 
+bool PersistedState::hasOnlyFolders() const {
+    return logs.empty() && processedFiles.isEmpty() && !isPaused;
+}
+
+PersistedState PersistedState::foldersOnly() const {
+    PersistedState bare;
+    bare.folders = folders;
+    bare.other = other;
+    return bare;
+}
+
+void PersistedState::takeHistory(PersistedState previous) {
+    logs = std::move(previous.logs);
+    processedFiles = std::move(previous.processedFiles);
+    isPaused = previous.isPaused;
+}
+
 void PersistedState::addLogs(std::vector<LogEntry> entries) {
     logs.insert(logs.begin(), std::move_iterator(entries.begin()),
                 std::move_iterator(entries.end()));

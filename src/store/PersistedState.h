@@ -26,6 +26,13 @@ struct PersistedState {
 
     bool operator==(const PersistedState&) const = default;
 
+    /// Whether there is nothing but folders, as in a state file just rewritten at launch.
+    [[nodiscard]] bool hasOnlyFolders() const;
+    /// What a state file rewritten at launch holds.
+    [[nodiscard]] PersistedState foldersOnly() const;
+    /// Takes from that file's predecessor what foldersOnly() leaves out.
+    void takeHistory(PersistedState previous);
+
     /// Puts a run's entries in front, in the order in which they happened, and drops what is past
     /// the cap.
     void addLogs(std::vector<LogEntry> entries);

@@ -45,7 +45,22 @@ Expected<StateFile::Loaded> StateFile::load(Timestamp now) {
 }
 
 Expected<void> StateFile::save(const PersistedState& state) {
-    return storage_.writeDurably(path_, encodeState(state));
+    const QByteArray bytes = encodeState(state);
+    if (hasWritten_ && storage_.readWhole(path_, largestFile) == bytes)
+        return {};
+    auto written = storage_.writeDurably(path_, bytes);
+    hasWritten_ = written.has_value();
+    return written;
+}
+
+Expected<bool> StateFile::keepAs(const std::string& other) {
+    const Expected<QByteArray> bytes = storage_.readWhole(path_, largestFile);
+    if (!bytes)
+        return bytes.error().kind == ErrorKind::notFound ? Expected<bool>(false)
+                                                         : std::unexpected(bytes.error());
+    if (auto written = storage_.writeDurably(other, *bytes); !written)
+        return std::unexpected(written.error());
+    return true;
 }
 
 } // namespace quillon

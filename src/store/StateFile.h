@@ -27,11 +27,16 @@ public:
     /// either.
     [[nodiscard]] Expected<Loaded> load(Timestamp now);
 
+    /// Durably. Bytes that this object wrote last and that are still there are not written again.
     [[nodiscard]] Expected<void> save(const PersistedState& state);
+
+    /// Keeps what is there as another file, durably. False where there is no file.
+    [[nodiscard]] Expected<bool> keepAs(const std::string& other);
 
 private:
     Storage& storage_;
     std::string path_;
+    bool hasWritten_ = false;
 };
 
 } // namespace quillon

@@ -13,7 +13,10 @@ struct StorePlaces {
     explicit StorePlaces(std::string dataFolder) : folder(std::move(dataFolder)) {}
 
     [[nodiscard]] std::string state() const { return joinPath(folder, "store.json"); }
+    /// The state file as it was read at the last launch.
+    [[nodiscard]] std::string previous() const { return joinPath(folder, "store.json.previous"); }
     [[nodiscard]] std::string journal() const { return joinPath(folder, "journal"); }
+    [[nodiscard]] std::string memory() const { return joinPath(folder, "memory.json"); }
     [[nodiscard]] std::string lock() const { return joinPath(folder, "store.lock"); }
 };
 

@@ -8,6 +8,7 @@
 #include "store/StorePlaces.h"
 #include "store/UndoJournal.h"
 
+#include <functional>
 #include <memory>
 
 namespace quillon {
@@ -32,20 +33,29 @@ public:
                                                                       const Services& services);
 
     [[nodiscard]] PersistedState& state() { return state_; }
-    [[nodiscard]] RunJournal& journal() { return *journal_; }
+    [[nodiscard]] UndoJournal& journal() { return *journal_; }
     /// Sentences about what was found when the store was opened.
     [[nodiscard]] const QStringList& warnings() const { return warnings_; }
 
-    /// Saves the state durably, then clears the journal.
+    /// To be called once, by a process that lives on: keeps the file that was read as
+    /// "store.json.previous", notes that in the journal, and rewrites the state file with the
+    /// folders alone. The state in memory stays as it is. When it fails, the file is as it was.
+    [[nodiscard]] Expected<void> rewriteAtLaunch();
+
+    /// Saves the state durably, then marks the ended runs in the journal as saved. A state that is
+    /// the one on the disk already is not written again.
     [[nodiscard]] Expected<void> save();
 
 private:
     StoreSession(const StorePlaces& places, const Services& services);
 
-    [[nodiscard]] Expected<void> openFiles(const StorePlaces& places);
-    [[nodiscard]] Expected<void> recover(const std::string& journalPath);
+    [[nodiscard]] Expected<void> openFiles();
+    [[nodiscard]] Expected<void> recover();
+    [[nodiscard]] Expected<void> takeHistory();
+    void takeIn(const JournalContents& journal);
 
     Services services_;
+    StorePlaces places_;
     StateFile stateFile_;
     std::unique_ptr<FileLock> lock_;
     PersistedState state_;

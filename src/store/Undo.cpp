@@ -5,6 +5,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,31 +26,118 @@ std::string placeOf(const LogEntry& entry) {
     return (entry.currentPath ? *entry.currentPath : *entry.trashedPath).toStdString();
 }
 
+/// The file that the entry tells of was written, or came into being, no later than the entry.
+bool isLaterThan(const LogEntry& entry, const FileStatus& status) {
+    const Timestamp latest = entry.date + roundingSlack;
+    return status.modified > latest || status.created.value_or(latest) > latest;
+}
+
+void addNote(QString& note, const QString& clause) {
+    note += note.isEmpty() ? clause : u"; "_s + clause;
+}
+
 } // namespace
 
 bool canBeUndone(const LogEntry& entry) {
     return entry.canUndo() && (entry.currentPath || entry.trashedPath);
 }
 
-std::optional<LogEntry> Undo::newest() const {
-    const auto stands = [this](const LogEntry& entry) {
-        return canBeUndone(entry) && fileSystem_.status(placeOf(entry)).has_value();
+std::optional<LogEntry> newestUndoable(const std::vector<LogEntry>& logs,
+                                       const FileSystem& fileSystem) {
+    const auto stands = [&](const LogEntry& entry) {
+        return canBeUndone(entry) && fileSystem.status(placeOf(entry)).has_value();
     };
-    auto found = std::ranges::find_if(state_.logs, stands);
-    if (found == state_.logs.end())
-        found = std::ranges::find_if(state_.logs, canBeUndone);
-    return found == state_.logs.end() ? std::nullopt : std::optional(*found);
+    auto found = std::ranges::find_if(logs, stands);
+    if (found == logs.end())
+        found = std::ranges::find_if(logs, canBeUndone);
+    return found == logs.end() ? std::nullopt : std::optional(*found);
 }
 
-UndoOutcome Undo::entry(const LogEntry& entry) {
-    UndoOutcome outcome{.entry = entry, .restored = std::string(), .note = {}};
-    outcome.restored = putBack(entry, outcome.note);
-    if (outcome.restored)
-        std::erase_if(state_.logs, [&](const LogEntry& logged) { return logged.id == entry.id; });
+std::vector<LogEntry> undoableOfBatch(const std::vector<LogEntry>& logs, const QUuid& batchID) {
+    std::vector<LogEntry> found;
+    std::ranges::copy_if(logs, std::back_inserter(found), [&](const LogEntry& entry) {
+        return entry.batchID == batchID && canBeUndone(entry);
+    });
+    return found;
+}
+
+std::vector<UndoOutcome> Undo::run(std::vector<LogEntry> entries, const Progress& progress,
+                                   const std::function<bool()>& mayContinue) {
+    const std::size_t total = entries.size();
+    std::vector<Task> left;
+    for (LogEntry& entry : entries)
+        left.push_back({.entry = std::move(entry)});
+    const Expected<void> journalled = intend(left);
+
+    std::vector<UndoOutcome> outcomes;
+    while (!left.empty()) {
+        QSet<QString> taken;
+        for (const Task& task : left)
+            if (task.intended)
+                taken.insert(task.entry.currentPath.value_or(QString()));
+        const auto isFree = [&](const Task& task) {
+            return task.entry.currentPath == task.entry.originalPath ||
+                   !taken.contains(task.entry.originalPath.value_or(QString()));
+        };
+        auto waiting = std::stable_partition(left.begin(), left.end(), isFree);
+        if (waiting == left.begin()) // each waits for another
+            ++waiting;
+        for (auto next = left.begin(); next != waiting; ++next) {
+            if (mayContinue && !mayContinue())
+                return outcomes;
+            if (journalled)
+                outcomes.push_back(takeBack(*next));
+            else
+                outcomes.push_back({.entry = next->entry,
+                                    .restored = std::unexpected(journalled.error()),
+                                    .note = {}});
+            if (progress)
+                progress(outcomes.size(), total);
+        }
+        left.erase(left.begin(), waiting);
+    }
+    return outcomes;
+}
+
+Expected<void> Undo::intend(std::span<Task> tasks) {
+    std::vector<Intent> intents;
+    for (Task& task : tasks) {
+        if (!canBeUndone(task.entry))
+            continue;
+        const Expected<FileStatus> status = fileSystem_.status(placeOf(task.entry));
+        if (!status)
+            continue;
+        task.intended = *status;
+        const std::string original = task.entry.originalPath->toStdString();
+        intents.push_back({.entry = task.entry,
+                           .status = *status,
+                           .targetFolders = {std::string(parentPath(original))}});
+    }
+    if (intents.empty())
+        return {};
+    if (auto written = journal_.intendUndo(intents); !written)
+        return failedTo(u"the journal can't be written"_s, written.error());
+    return {};
+}
+
+UndoOutcome Undo::takeBack(Task& task) {
+    UndoOutcome outcome{.entry = task.entry, .restored = std::string(), .note = {}};
+    Expected<Placement> placement = putBack(task, outcome.note);
+    if (!placement) {
+        outcome.restored = std::unexpected(placement.error());
+        return outcome;
+    }
+    if (!placement->losses.isEmpty())
+        addNote(outcome.note, u"lost on the way: "_s + placement->losses.join(u", "));
+    LogEntry done = task.entry;
+    done.currentPath = pathText(placement->path);
+    journal_.record(done);
+    outcome.restored = std::move(placement->path);
     return outcome;
 }
 
-Expected<std::string> Undo::putBack(const LogEntry& entry, QString& note) {
+Expected<Placement> Undo::putBack(Task& task, QString& note) {
+    const LogEntry& entry = task.entry;
     if (!canBeUndone(entry))
         return failure(ErrorKind::invalid, u"this entry is nothing that can be undone"_s);
     const bool inTrash = !entry.currentPath.has_value();
@@ -60,44 +149,16 @@ Expected<std::string> Undo::putBack(const LogEntry& entry, QString& note) {
         return failure(status.error().kind, status.error().kind == ErrorKind::notFound
                                                 ? notFound(current, inTrash)
                                                 : status.error().message);
-    if (status->modified > entry.date + roundingSlack)
-        note = u"it has been changed or replaced since"_s;
+    // Another entry of these has put it there, or somebody else just now.
+    if (!task.intended || !task.intended->isSameFileAs(*status))
+        if (auto intended = intend({&task, 1}); !intended)
+            return std::unexpected(intended.error());
+    if (isLaterThan(entry, *status))
+        addNote(note, u"it has been changed or replaced since"_s);
 
     // Where the folder can't be made again, the move says why.
     std::ignore = fileSystem_.makeFolders(std::string(parentPath(original)));
-    if (inTrash)
-        return trash_.restore(current, original);
-    auto placement = fileSystem_.move(current, original);
-    if (!placement)
-        return std::unexpected(placement.error());
-    if (!placement->losses.isEmpty())
-        note += (note.isEmpty() ? u""_s : u"; "_s) + u"lost on the way: "_s +
-                placement->losses.join(u", ");
-    return std::move(placement->path);
-}
-
-std::vector<UndoOutcome> Undo::batch(const QUuid& batchID) {
-    std::vector<LogEntry> left;
-    for (const LogEntry& entry : state_.logs)
-        if (entry.batchID == batchID && canBeUndone(entry))
-            left.push_back(entry);
-
-    std::vector<UndoOutcome> outcomes;
-    while (!left.empty()) {
-        QSet<QString> taken;
-        for (const LogEntry& entry : left)
-            taken.insert(entry.currentPath.value_or(QString()));
-        const auto isFree = [&](const LogEntry& entry) {
-            return entry.currentPath == entry.originalPath || !taken.contains(*entry.originalPath);
-        };
-        auto waiting = std::stable_partition(left.begin(), left.end(), isFree);
-        if (waiting == left.begin()) // each waits for another
-            ++waiting;
-        for (auto next = left.begin(); next != waiting; ++next)
-            outcomes.push_back(entry(*next));
-        left.erase(left.begin(), waiting);
-    }
-    return outcomes;
+    return inTrash ? trash_.restore(current, original) : fileSystem_.move(current, original);
 }
 
 } // namespace quillon

@@ -192,10 +192,7 @@ Report restoreFromTrash(const Places& places) {
     Services services(places);
     const std::string trashed = places.path("trash/files/report.pdf");
     const auto restored = services.trash.restore(trashed, places.path("out/report.pdf"));
-    if (!restored)
-        return {failed(trashed, places.out, restored.error())};
-    // Whatever was lost between two file systems, restoring doesn't say.
-    return {{trashed, true, *restored, "not told", ""}};
+    return {claimOf(places, trashed, restored)};
 }
 
 Report tidyFolder(const Places& places) {
@@ -210,9 +207,10 @@ Report tidyFolder(const Places& places) {
     const auto ready = engine.readyFiles(folder);
     if (!ready)
         return {};
-    const RunResult result =
-        engine.execute(*ready, tidyRules(places), folder, {}, QUuid(), (*session)->journal());
+    auto run = (*session)->journal().beginRun();
+    const RunResult result = engine.execute(*ready, tidyRules(places), folder, {}, QUuid(), *run);
     (*session)->state().addLogs(result.entries);
+    run.reset();
     // When this fails the journal stays, and what was done is still true.
     static_cast<void>((*session)->save());
     return reportOf(result.entries);

@@ -79,16 +79,16 @@ TEST_F(TrashTest, takesTheLongestNames) {
     const std::string trashed = put(folder.write(name, "1"));
     EXPECT_TRUE(
         folder.has("data/Trash/info/" + std::string(lastComponent(trashed)) + ".trashinfo"));
-    EXPECT_EQ(trash.restore(trashed, folder.path(name)), folder.path(name));
+    EXPECT_EQ(trash.restore(trashed, folder.path(name))->path, folder.path(name));
 }
 
 TEST_F(TrashTest, givesBackWithItsRecord) {
     const std::string trashed = put(folder.write("in/a.txt", "1"));
     std::filesystem::remove_all(folder.path("in"));
-    EXPECT_EQ(trash.restore(trashed, folder.path("in/a.txt")), folder.path("in/a.txt"));
+    EXPECT_EQ(trash.restore(trashed, folder.path("in/a.txt"))->path, folder.path("in/a.txt"));
     const std::string again = put(folder.path("in/a.txt"));
     folder.write("in/a.txt", "2");
-    EXPECT_EQ(trash.restore(again, folder.path("in/a.txt")), folder.path("in/a 2.txt"));
+    EXPECT_EQ(trash.restore(again, folder.path("in/a.txt"))->path, folder.path("in/a 2.txt"));
     EXPECT_EQ(folder.everything(), (Tree{{"data", "/"},
                                          {"data/Trash", "/"},
                                          {"data/Trash/files", "/"},

@@ -41,10 +41,10 @@ TEST(Journal, readsBackWhatWasWritten) {
 
     JsonStream json;
     writeJournalHeader(json, "tag1");
-    writeIntent(json, intent);
+    writeIntent(json, {}, intent, false);
     const Intent second{.entry = sampleEntry(), .status = {}, .targetFolders = {}};
-    writeIntent(json, second);
-    writeOutcome(json, outcome);
+    writeIntent(json, {}, second, false);
+    writeOutcome(json, {}, outcome);
     const QByteArray bytes = json.take();
 
     const JournalContents contents = readJournal(bytes);
@@ -158,11 +158,11 @@ TEST(JournalRecovery, findsWhatReallyHappened) {
             "a.txt", {bench.machine.at("One"), bench.machine.at("Two"), bench.machine.work()});
         JsonStream json;
         writeJournalHeader(json, "old");
-        writeIntent(json, intent);
+        writeIntent(json, {}, intent, false);
         bool hasOutcome = false;
         c.happens(bench, intent, hasOutcome);
         if (hasOutcome)
-            writeOutcome(json, intent.entry);
+            writeOutcome(json, {}, intent.entry);
         bench.machine.write(bench.places.journal(), json.take().toStdString());
         const std::string leftover = bench.machine.write("One/.quillon-old-1.part", "half");
         const std::string others = bench.machine.write("One/.quillon-other-1.part", "half");
@@ -200,9 +200,9 @@ TEST(JournalRecovery, addsNothingWhenTheStateWasSavedBeforeTheJournalWasCleared)
     const Intent saved = bench.intentFor("a.txt", {});
     const Intent pastTheCap = bench.intentFor("b.txt", {});
     for (Intent intent : {saved, pastTheCap}) {
-        writeIntent(json, intent);
+        writeIntent(json, {}, intent, false);
         intent.entry.actionSummary = u"tagged red"_s;
-        writeOutcome(json, intent.entry);
+        writeOutcome(json, {}, intent.entry);
     }
     const std::vector<LogEntry> logs{saved.entry};
     EXPECT_TRUE(recoveredEntries(readJournal(json.take()), logs, bench.services.fileSystem,
@@ -219,17 +219,20 @@ TEST(UndoJournal, isReadableAtEveryMomentAndEmptyOnceSaved) {
             QByteArray::fromStdString(bench.machine.contents(bench.places.journal())));
     };
     auto session = bench.open();
-    ASSERT_TRUE(session->journal().intend({&intent, 1}));
+    auto run = session->journal().beginRun();
+    ASSERT_TRUE(run->intend({&intent, 1}));
     ASSERT_EQ(journalled().files.size(), 1u);
     EXPECT_EQ(journalled().temporaryTag, "ours");
     EXPECT_FALSE(journalled().files[0].hasOutcome);
     intent.entry.actionSummary = u"tagged red"_s;
-    session->journal().record(intent.entry);
+    run->record(intent.entry);
     EXPECT_EQ(journalled().files[0].intent.entry, intent.entry);
     session->state().addLogs({intent.entry});
+    run.reset();
     ASSERT_TRUE(session->save());
     EXPECT_TRUE(journalled().files.empty());
-    ASSERT_TRUE(session->journal().intend({&intent, 1}));
+    run = session->journal().beginRun();
+    ASSERT_TRUE(run->intend({&intent, 1}));
     EXPECT_EQ(journalled().temporaryTag, "ours");
 }
 
@@ -239,7 +242,7 @@ TEST(StoreView, takesAJournalInOnlyWhenNobodyIsWritingIt) {
     const Intent intent = bench.intentFor("a.txt", {bench.machine.makeFolder("One")});
     {
         auto running = bench.open();
-        ASSERT_TRUE(running->journal().intend({&intent, 1}));
+        ASSERT_TRUE(running->journal().beginRun()->intend({&intent, 1}));
         moveFile(bench, "a.txt", "One/a.txt");
         EXPECT_TRUE(viewStore(bench.places, bench.services)->state.logs.empty());
     }

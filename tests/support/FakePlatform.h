@@ -115,7 +115,7 @@ private:
 class NoTrash : public Trash {
 public:
     Expected<std::string> put(const std::string&) override { return no(); }
-    Expected<std::string> restore(const std::string&, const std::string&) override { return no(); }
+    Expected<Placement> restore(const std::string&, const std::string&) override { return no(); }
 
 private:
     static std::unexpected<Error> no() {

@@ -105,8 +105,8 @@ Expected<std::string> LinuxTrash::put(const std::string& path) {
     return trashed;
 }
 
-Expected<std::string> LinuxTrash::restore(const std::string& trashedPath,
-                                          const std::string& wanted) {
+Expected<Placement> LinuxTrash::restore(const std::string& trashedPath,
+                                        const std::string& wanted) {
     if (const Expected<FileStatus> status = fileSystem_.status(trashedPath); !status) {
         return std::unexpected(status.error());
     }
@@ -114,15 +114,12 @@ Expected<std::string> LinuxTrash::restore(const std::string& trashedPath,
         return std::unexpected(made.error());
     }
     Expected<Placement> placed = fileSystem_.move(trashedPath, wanted);
-    if (!placed) {
-        return std::unexpected(placed.error());
-    }
     const std::string record = trashRecordOf(trashedPath);
-    if (placed->done && !record.empty()) {
+    if (placed && placed->done && !record.empty()) {
         // The file is back. A record that stays behind names nothing, and every trash ignores it.
         (void)::unlink(record.c_str());
     }
-    return std::move(placed->path);
+    return placed;
 }
 
 } // namespace quillon

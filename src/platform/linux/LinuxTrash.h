@@ -13,8 +13,8 @@ public:
     LinuxTrash(FileSystem& fileSystem, std::string homeTrash);
 
     [[nodiscard]] Expected<std::string> put(const std::string& path) override;
-    [[nodiscard]] Expected<std::string> restore(const std::string& trashedPath,
-                                                const std::string& wanted) override;
+    [[nodiscard]] Expected<Placement> restore(const std::string& trashedPath,
+                                              const std::string& wanted) override;
 
 private:
     FileSystem& fileSystem_;
