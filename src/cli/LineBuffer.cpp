@@ -1,6 +1,6 @@
 #include "cli/LineBuffer.h"
 
-#include "cli/ShownText.h"
+#include "service/ShownText.h"
 
 namespace quillon {
 namespace {

@@ -1,6 +1,6 @@
 #include "service/Console.h"
 
-#include "cli/ShownText.h"
+#include "service/ShownText.h"
 
 namespace quillon {
 

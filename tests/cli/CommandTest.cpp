@@ -1,5 +1,5 @@
 #include "cli/ProgressBar.h"
-#include "cli/ShownText.h"
+#include "service/ShownText.h"
 #include "support/CommandBench.h"
 #include "support/FakeClock.h"
 #include "support/PrintQt.h"

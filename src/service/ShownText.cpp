@@ -1,4 +1,4 @@
-#include "cli/ShownText.h"
+#include "service/ShownText.h"
 
 #include <QChar>
 #include <QList>
