@@ -1,10 +1,11 @@
 #include "cli/Inputs.h"
 
+#include "cli/NamedFolder.h"
 #include "model/RuleFile.h"
 #include "platform/FileNames.h"
 #include "store/Sentences.h"
 
-#include <filesystem>
+#include <array>
 
 namespace quillon {
 
@@ -13,12 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::size_t largestRuleFile = 64 << 20;
-
-std::string absolutePath(const std::string& path) {
-    std::error_code error;
-    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
-    return error ? path : absolute.string();
-}
 
 Expected<QByteArray> readStream(std::istream& in) {
     QByteArray bytes;
@@ -42,7 +37,7 @@ Expected<std::vector<Rule>> readRules(const std::string& source, const Console& 
         isStream ? u"The rules on standard input"_s : u"The rule file %1"_s.arg(pathText(source));
     const Expected<QByteArray> bytes =
         isStream ? readStream(console.in)
-                 : services.storage().readWhole(absolutePath(source), largestRuleFile);
+                 : services.storage().readWhole(absolutePath(source, console), largestRuleFile);
     if (!bytes)
         return failedTo(name + u" can't be read"_s, bytes.error());
     auto rules = decodeRules(*bytes);
@@ -57,22 +52,24 @@ Expected<FolderInput> readInput(const FolderOptions& options, const Console& con
     if (!rules)
         return std::unexpected(rules.error());
 
-    FolderInput input{
-        .request = {.path = services.platform().fileSystem.resolved(absolutePath(options.folder)),
-                    .isRecursive = options.isRecursive,
-                    .skipOnlineOnly = options.skipOnlineOnly,
-                    .settings = {}},
-        .ready = {},
-        .rules = std::move(*rules)};
-    input.request.settings.settleTime = std::chrono::duration<double>(options.settleSeconds);
-    input.request.settings.mayContinue = console.mayContinue;
+    const std::string path =
+        services.platform().fileSystem.resolved(absolutePath(options.folder, console));
     const QString name = u"The folder %1 can't be read"_s.arg(pathText(options.folder));
-    if (!isValidUtf8(input.request.path))
+    if (!isValidUtf8(path))
         return failure(ErrorKind::invalid, name + u": its path is not valid UTF-8"_s);
-    auto ready = services.engine(input.request.settings).readyFiles(folderFor(input.request));
+
+    FolderInput input;
+    input.folder.id = QUuid();
+    input.folder.path = pathText(path);
+    input.folder.isRecursive = options.isRecursive;
+    input.folder.skipOnlineOnly = options.skipOnlineOnly;
+    input.settings.settleTime = std::chrono::duration<double>(options.settleSeconds);
+    input.settings.mayContinue = console.mayContinue;
+    auto ready = services.engine(input.settings).readyFiles(input.folder);
     if (!ready)
         return failedTo(name, ready.error());
     input.ready = std::move(*ready);
+    input.rules = std::move(*rules);
     if (input.rules.empty())
         console.say(u"There are no rules, so there is nothing to do"_s);
     return input;

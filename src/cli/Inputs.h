@@ -1,9 +1,14 @@
 #pragma once
 
 #include "cli/Options.h"
+#include "engine/EngineSettings.h"
+#include "engine/RuleEngine.h"
 #include "model/Rule.h"
+#include "model/WatchedFolder.h"
 #include "service/Console.h"
-#include "service/TidyRun.h"
+#include "service/Services.h"
+
+#include <vector>
 
 namespace quillon {
 
@@ -13,7 +18,8 @@ namespace quillon {
 
 /// The folder and the rules that a command works on.
 struct FolderInput {
-    FolderRequest request;
+    WatchedFolder folder; ///< without an identity when it is not watched
+    EngineSettings settings;
     ReadyFiles ready;
     std::vector<Rule> rules;
 };

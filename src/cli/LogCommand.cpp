@@ -1,10 +1,12 @@
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
+#include "cli/LocalTime.h"
+#include "cli/NamedFolder.h"
 #include "cli/StoreFailure.h"
 #include "cli/Verbs.h"
 #include "model/Uuid.h"
 
-#include <QDateTime>
+#include <algorithm>
 
 namespace quillon {
 
@@ -14,9 +16,26 @@ namespace {
 
 constexpr qsizetype shortID = 8;
 
-QString localTime(Timestamp date) {
-    const auto seconds = std::chrono::floor<std::chrono::seconds>(date).time_since_epoch();
-    return QDateTime::fromSecsSinceEpoch(seconds.count()).toString(u"yyyy-MM-dd HH:mm");
+/// Whether the file of an entry was in the folder, or below it, before.
+bool wasWithin(const LogEntry& entry, const std::string& folder) {
+    return entry.originalPath &&
+           entry.originalPath->toStdString().starts_with(folder == "/" ? folder : folder + '/');
+}
+
+/// Of a watched folder what it has done, of any other what was done there.
+Chosen<std::vector<LogEntry>> ofFolder(std::vector<LogEntry> logs, const std::string& given,
+                                       const std::vector<WatchedFolder>& folders,
+                                       const Console& console, Services& services) {
+    const auto watched = watchedFolderAt(given, folders, console, services);
+    const std::string path =
+        watched ? watched->path.toStdString()
+                : services.platform().fileSystem.resolved(absolutePath(given, console));
+    std::erase_if(logs, [&](const LogEntry& entry) {
+        return !(watched && entry.folderID == watched->id) && !wasWithin(entry, path);
+    });
+    if (logs.empty() && !watched)
+        return std::unexpected(watched.error());
+    return logs;
 }
 
 std::vector<LogEntry> chosen(std::vector<LogEntry> logs, const LogOptions& options) {
@@ -62,7 +81,12 @@ ExitCode logCommand(const LogOptions& options, const Console& console, Services&
         return sayStoreFailure(view.error(), console);
     for (const QString& warning : view->warnings)
         console.say(warning);
-    const std::vector<LogEntry> logs = chosen(view->state.logs, options);
+    Chosen<std::vector<LogEntry>> found = view->state.logs;
+    if (!options.folder.empty())
+        found = ofFolder(std::move(*found), options.folder, view->state.folders, console, services);
+    if (!found)
+        return sayRefusal(found.error(), console);
+    const std::vector<LogEntry> logs = chosen(std::move(*found), options);
     if (options.json)
         printJson(logs, console.out);
     else if (logs.empty())

@@ -128,7 +128,7 @@ struct CleanupOptions {
     std::vector<std::string> recipes;              ///< ids; none: those on by default
     std::vector<std::pair<std::string, int>> days; ///< by recipe id
     bool isDryRun = false;
-    bool keeps = false; ///< turn the recipes into permanent rules instead
+    bool keeps = false; ///< the recipes also become rules of the folder
     bool json = false;
 };
 

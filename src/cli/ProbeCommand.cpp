@@ -51,7 +51,7 @@ ExitCode probeCommand(const FolderOptions& options, const Console& console, Serv
         console.say(input.error());
         return ExitCode::unreadable;
     }
-    const RuleEngine engine = services.engine(input->request.settings);
+    const RuleEngine engine = services.engine(input->settings);
     std::vector<ProbedRule> probed;
     {
         ProgressBar bar(console.err, services.platform().clock, console.showsProgress);

@@ -1,9 +1,71 @@
+#include "cli/NamedFolder.h"
+#include "cli/OpenStore.h"
+#include "cli/RunOutput.h"
 #include "cli/Verbs.h"
+
+#include <algorithm>
 
 namespace quillon {
 
-ExitCode runCommand(const RunOptions& /*options*/, const Console& console, Services& /*services*/) {
-    console.say(QStringLiteral("This command is being built"));
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// In the order of the watched folders, none twice.
+Chosen<std::vector<QUuid>> chosenFolders(const std::vector<std::string>& given,
+                                         const std::vector<WatchedFolder>& folders,
+                                         const Console& console, Services& services) {
+    std::vector<QUuid> named;
+    for (const std::string& path : given) {
+        const auto folder = watchedFolderAt(path, folders, console, services);
+        if (!folder)
+            return std::unexpected(folder.error());
+        named.push_back(folder->id);
+    }
+    std::vector<QUuid> chosen;
+    for (const WatchedFolder& folder : folders)
+        if (given.empty() || std::ranges::count(named, folder.id) > 0)
+            chosen.push_back(folder.id);
+    return chosen;
+}
+
+std::vector<RunReport> runFolders(const StoreAccess& store, const std::vector<QUuid>& folderIDs,
+                                  bool waits, const Console& console) {
+    std::vector<RunReport> reports = store.runsOf(
+        [&](AppStore& appStore) {
+            for (const QUuid& id : folderIDs)
+                appStore.runRules(id, RunCause::asked);
+        },
+        console.mayContinue);
+    if (!waits)
+        return reports;
+    for (const QUuid& id : folderIDs)
+        for (RunReport& later : store.untilSettled(id, console.mayContinue))
+            reports.push_back(std::move(later));
+    return reports;
+}
+
+} // namespace
+
+ExitCode runCommand(const RunOptions& options, const Console& console, Services& services) {
+    const auto store = openStoreFor(console, services);
+    if (!store)
+        return store.error();
+    const auto folders = store->call([](AppStore& appStore) { return appStore.folders(); });
+    const auto chosen = chosenFolders(options.folders, folders, console, services);
+    if (!chosen)
+        return sayRefusal(chosen.error(), console);
+    if (chosen->empty())
+        console.say(u"No folder is watched, so there is nothing to do; begin with: quillon folder "
+                    "add DIR"_s);
+
+    const std::vector<RunReport> reports = runFolders(*store, *chosen, options.waits, console);
+    const ExitCode code =
+        options.json ? tellRunsAsJson(reports, console) : tellRuns(reports, console);
+    const bool wasStopped = console.mayContinue && !console.mayContinue();
+    if (!wasStopped)
+        return code;
+    console.say(u"Stopped on request; what is not named here is in the log"_s);
     return ExitCode::someFailed;
 }
 

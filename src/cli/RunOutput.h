@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/LineBuffer.h"
 #include "service/Console.h"
 #include "service/ExitCode.h"
 #include "store/JsonStream.h"
@@ -14,8 +15,23 @@ namespace quillon {
 /// when a file failed, or a run did not come to its end, or could not be saved.
 [[nodiscard]] ExitCode tellRuns(const std::vector<RunReport>& reports, const Console& console);
 
+/// The part of that which goes to `out`.
+void addRuns(const std::vector<RunReport>& reports, LineBuffer& lines);
+/// The part which goes to `err`.
+[[nodiscard]] ExitCode sayHowRunsEnded(const std::vector<RunReport>& reports,
+                                       const Console& console);
+
 /// The same as a list of objects on `out`.
 [[nodiscard]] ExitCode tellRunsAsJson(const std::vector<RunReport>& reports,
                                       const Console& console);
+
+/// One line a file.
+void addEntries(const std::vector<LogEntry>& entries, LineBuffer& lines);
+
+[[nodiscard]] std::size_t failedEntries(const std::vector<LogEntry>& entries);
+
+/// Says on `err` why a run did not come to its end or could not be saved; true when that is so.
+[[nodiscard]] bool sayProblems(const RunResult& run, const std::optional<Error>& unsaved,
+                               const Console& console);
 
 } // namespace quillon

@@ -54,7 +54,8 @@ Command defineCleanup(CLI::App& parser) {
         ->type_name("ID=N")
         ->allow_extra_args(false);
     parser.add_flag("--dry-run", options->isDryRun, "Show what it would do, and change nothing");
-    parser.add_flag("--keep", options->keeps, "Make permanent rules of the recipes instead");
+    parser.add_flag("--keep", options->keeps,
+                    "Also make permanent rules of the recipes, for a watched folder");
     addJson(parser, options->json);
     return bound<cleanupCommand>(options);
 }

@@ -1,7 +1,5 @@
 #include "cli/Totals.h"
 
-#include "store/Sentences.h"
-
 namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,9 +9,9 @@ void Totals::add(std::size_t number, const QString& what) {
         text_ += u", "_s + QString::number(number) + u' ' + what;
 }
 
-void Totals::addLeftAlone(const ReadyFiles& ready) {
-    add(ready.deferred, u"still settling"_s);
-    add(ready.skippedNames, u"left alone because the name is not valid UTF-8"_s);
+void Totals::addLeftAlone(std::size_t deferred, std::size_t skippedNames) {
+    add(deferred, u"still settling"_s);
+    add(skippedNames, u"left alone because the name is not valid UTF-8"_s);
 }
 
 } // namespace quillon

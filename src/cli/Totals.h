@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/RuleEngine.h"
-
 #include <QString>
+
+#include <cstddef>
 
 namespace quillon {
 
@@ -13,7 +13,8 @@ public:
 
     /// Adds a clause unless the number is 0.
     void add(std::size_t number, const QString& what);
-    void addLeftAlone(const ReadyFiles& ready);
+    /// Files that a run did not look at.
+    void addLeftAlone(std::size_t deferred, std::size_t skippedNames);
 
     [[nodiscard]] QString sentence() const { return text_ + u'.'; }
 

@@ -1,6 +1,8 @@
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
-#include "cli/StoreFailure.h"
+#include "cli/OpenStore.h"
+#include "cli/ProgressBar.h"
+#include "cli/Refusal.h"
 #include "cli/Totals.h"
 #include "cli/Verbs.h"
 #include "model/Uuid.h"
@@ -8,6 +10,8 @@
 #include "store/Undo.h"
 
 #include <QSet>
+
+#include <algorithm>
 
 namespace quillon {
 
@@ -17,50 +21,38 @@ namespace {
 
 constexpr qsizetype shortestPrefix = 4;
 
-/// Why nothing is undone.
-struct Refusal {
-    ExitCode code;
-    QString sentence;
-};
-
 /// The one id that is meant by a text.
-std::expected<QUuid, Refusal> meantID(const std::string& given, const QSet<QUuid>& ids,
-                                      const QString& noun) {
+Chosen<QUuid> meantID(const std::string& given, const QSet<QUuid>& ids, const QString& noun) {
     const QString text = QString::fromStdString(given);
     const auto isIDCharacter = [](QChar c) { return u"0123456789abcdefABCDEF-"_s.contains(c); };
     if (text.size() < shortestPrefix || !std::ranges::all_of(text, isIDCharacter))
-        return std::unexpected(
-            Refusal{ExitCode::usage,
-                    u"“%1” is not an id, nor the first %2 "
-                    "characters of one or more"_s.arg(text, QString::number(shortestPrefix))});
+        return refusal(ExitCode::usage, u"“%1” is not an id, nor the first %2 characters of one or "
+                                        "more"_s.arg(text, QString::number(shortestPrefix)));
     std::vector<QUuid> found;
     for (const QUuid& id : ids)
         if (uuidText(id).startsWith(text, Qt::CaseInsensitive))
             found.push_back(id);
     if (found.empty())
-        return std::unexpected(
-            Refusal{ExitCode::someFailed, u"The activity log has no %1 %2"_s.arg(noun, text)});
+        return refusal(ExitCode::someFailed, u"The activity log has no %1 %2"_s.arg(noun, text));
     if (found.size() > 1)
-        return std::unexpected(Refusal{
-            ExitCode::usage,
-            u"%1 ids begin with %2; give more of it"_s.arg(QString::number(found.size()), text)});
+        return refusal(ExitCode::usage, u"%1 ids begin with %2; give more of it"_s.arg(
+                                            QString::number(found.size()), text));
     return found.front();
 }
 
-using Outcomes = std::expected<std::vector<UndoOutcome>, Refusal>;
-
-Outcomes undoEntry(const std::string& given, const std::vector<LogEntry>& logs, Undo& undo) {
+Chosen<std::vector<QUuid>> chosenEntry(const std::string& given,
+                                       const std::vector<LogEntry>& logs) {
     QSet<QUuid> ids;
     for (const LogEntry& entry : logs)
         ids.insert(entry.id);
     const auto id = meantID(given, ids, u"entry"_s);
     if (!id)
         return std::unexpected(id.error());
-    const LogEntry entry = *std::ranges::find(logs, *id, &LogEntry::id);
-    return std::vector{undo.entry(entry)};
+    return std::vector{*id};
 }
 
-Outcomes undoBatch(const std::string& given, const std::vector<LogEntry>& logs, Undo& undo) {
+Chosen<std::vector<QUuid>> chosenBatch(const std::string& given,
+                                       const std::vector<LogEntry>& logs) {
     QSet<QUuid> ids;
     for (const LogEntry& entry : logs)
         if (entry.batchID)
@@ -68,18 +60,24 @@ Outcomes undoBatch(const std::string& given, const std::vector<LogEntry>& logs, 
     const auto id = meantID(given, ids, u"batch"_s);
     if (!id)
         return std::unexpected(id.error());
-    std::vector<UndoOutcome> outcomes = undo.batch(*id);
-    if (outcomes.empty())
-        return std::unexpected(
-            Refusal{ExitCode::someFailed, u"Nothing of this batch can be undone"_s});
-    return outcomes;
+    std::vector<QUuid> chosen;
+    for (const LogEntry& entry : undoableOfBatch(logs, *id))
+        chosen.push_back(entry.id);
+    if (chosen.empty())
+        return refusal(ExitCode::someFailed, u"Nothing of this batch can be undone"_s);
+    return chosen;
 }
 
-Outcomes undoLast(Undo& undo) {
-    const auto entry = undo.newest();
+Chosen<std::vector<QUuid>> chosenEntries(const UndoOptions& options,
+                                         const std::vector<LogEntry>& logs,
+                                         const FileSystem& fileSystem) {
+    if (!options.last)
+        return options.batch.empty() ? chosenEntry(options.entry, logs)
+                                     : chosenBatch(options.batch, logs);
+    const auto entry = newestUndoable(logs, fileSystem);
     if (!entry)
-        return std::unexpected(Refusal{ExitCode::someFailed, u"There is nothing to undo"_s});
-    return std::vector{undo.entry(*entry)};
+        return refusal(ExitCode::someFailed, u"There is nothing to undo"_s);
+    return std::vector{entry->id};
 }
 
 void printJson(const std::vector<UndoOutcome>& outcomes, std::ostream& out) {
@@ -125,41 +123,50 @@ void printText(const std::vector<UndoOutcome>& outcomes, std::size_t failed,
     lines.add(totals.sentence()).endLine();
 }
 
-} // namespace
-
-ExitCode undoCommand(const UndoOptions& options, const Console& console, Services& services) {
-    auto store = services.openStore();
-    if (!store)
-        return sayStoreFailure(store.error(), console);
-    for (const QString& warning : (*store)->warnings())
-        console.say(warning);
-
-    PersistedState& state = (*store)->state();
-    Undo undo(services.platform().fileSystem, services.platform().trash, state);
-    const Outcomes outcomes = options.last            ? undoLast(undo)
-                              : options.batch.empty() ? undoEntry(options.entry, state.logs, undo)
-                                                      : undoBatch(options.batch, state.logs, undo);
-    if (!outcomes) {
-        console.say(outcomes.error().sentence);
-        return outcomes.error().code;
-    }
-
-    const auto saved = (*store)->save();
+/// Says which files can't be put back, and why; returns their number.
+std::size_t sayFailures(const std::vector<UndoOutcome>& outcomes, const Console& console) {
     std::size_t failed = 0;
-    for (const UndoOutcome& outcome : *outcomes)
+    for (const UndoOutcome& outcome : outcomes)
         if (!outcome.restored) {
             ++failed;
             console.say(u"%1 can't be put back: %2"_s.arg(outcome.entry.fileName,
                                                           outcome.restored.error().message));
         }
+    return failed;
+}
+
+} // namespace
+
+ExitCode undoCommand(const UndoOptions& options, const Console& console, Services& services) {
+    const auto store = openStoreFor(console, services);
+    if (!store)
+        return store.error();
+    const auto logs = store->call([](AppStore& appStore) { return appStore.recentLogs(); });
+    const auto chosen = chosenEntries(options, logs, services.platform().fileSystem);
+    if (!chosen)
+        return sayRefusal(chosen.error(), console);
+
+    AppStore::UndoReport report;
+    {
+        ProgressBar bar(console.err, services.platform().clock, console.showsProgress);
+        report = store->undo(
+            *chosen, [&](std::size_t done, std::size_t total) { bar.update(done, total); },
+            console.mayContinue);
+    }
+    const std::vector<UndoOutcome>& outcomes = report.outcomes;
+    const std::size_t failed = sayFailures(outcomes, console);
     if (options.json)
-        printJson(*outcomes, console.out);
+        printJson(outcomes, console.out);
     else
-        printText(*outcomes, failed, console);
-    if (!saved)
-        console.say(u"The activity log can't be saved, so it still lists what was undone: "_s +
-                    saved.error().message);
-    return failed > 0 || !saved ? ExitCode::someFailed : ExitCode::done;
+        printText(outcomes, failed, console);
+    const bool wasStopped = outcomes.size() < chosen->size();
+    if (wasStopped)
+        console.say(u"Stopped on request; %1 can still be undone"_s.arg(
+            counted(chosen->size() - outcomes.size(), u"file"_s)));
+    if (report.unsaved)
+        console.say(u"The activity log can't be saved (%1), so it may still list what was "
+                    "undone"_s.arg(report.unsaved->message));
+    return failed > 0 || wasStopped || report.unsaved ? ExitCode::someFailed : ExitCode::done;
 }
 
 } // namespace quillon

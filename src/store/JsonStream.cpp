@@ -84,12 +84,6 @@ std::array<char, 36> uuidCharacters(const QUuid& id) {
     return text;
 }
 
-QString isoText(Timestamp date) {
-    const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(date);
-    return QDateTime::fromMSecsSinceEpoch(milliseconds.time_since_epoch().count(), Qt::UTC)
-        .toString(Qt::ISODateWithMs);
-}
-
 } // namespace
 
 JsonStream& JsonStream::begin(char bracket) {
@@ -160,6 +154,12 @@ JsonStream& JsonStream::real(double value) {
     return *this;
 }
 
+JsonStream& JsonStream::isoDate(Timestamp value) {
+    const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(value);
+    return text(QDateTime::fromMSecsSinceEpoch(milliseconds.time_since_epoch().count(), Qt::UTC)
+                    .toString(Qt::ISODateWithMs));
+}
+
 JsonStream& JsonStream::breakLine() {
     bytes_ += '\n';
     return *this;
@@ -189,7 +189,7 @@ void writeLogEntry(JsonStream& json, const LogEntry& entry, DateForm form) {
     if (form == DateForm::stored)
         json.real(jsonDate(entry.date));
     else
-        json.text(isoText(entry.date));
+        json.isoDate(entry.date);
     json.key("fileName").text(entry.fileName);
     json.key("ruleName").text(entry.ruleName);
     json.key("actionSummary").text(entry.actionSummary);

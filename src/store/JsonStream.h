@@ -28,6 +28,7 @@ public:
     JsonStream& truth(bool value);
     JsonStream& integer(std::int64_t value);
     JsonStream& real(double value); ///< finite
+    JsonStream& isoDate(Timestamp value);
 
     /// A line break between two values.
     JsonStream& breakLine();

@@ -1,0 +1,110 @@
+#include "cli/CleanupPlan.h"
+
+#include "cli/NamedFolder.h"
+#include "model/NearestWord.h"
+#include "platform/FileNames.h"
+#include "store/Sentences.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+Chosen<CleanupRecipe> recipeNamed(const std::string& id,
+                                  const std::vector<CleanupRecipe>& recipes) {
+    const QString text = QString::fromStdString(id);
+    const auto found = std::ranges::find(recipes, text, &CleanupRecipe::id);
+    if (found != recipes.end())
+        return *found;
+    std::vector<std::string> ids;
+    for (const CleanupRecipe& recipe : recipes)
+        ids.push_back(recipe.id.toStdString());
+    return refusal(ExitCode::usage, u"“%1” is not a recipe; the nearest is “%2”"_s.arg(
+                                        text, QString::fromStdString(nearestWord(id, ids))));
+}
+
+Chosen<void> chooseRecipes(const CleanupOptions& options, CleanupPlan& plan) {
+    for (const std::string& id : options.recipes) {
+        const auto recipe = recipeNamed(id, plan.recipes);
+        if (!recipe)
+            return std::unexpected(recipe.error());
+        plan.chosen.insert(recipe->id);
+    }
+    if (options.recipes.empty())
+        for (const CleanupRecipe& recipe : plan.recipes)
+            if (recipe.isOnByDefault)
+                plan.chosen.insert(recipe.id);
+
+    for (const auto& [id, days] : options.days) {
+        const auto recipe = recipeNamed(id, plan.recipes);
+        if (!recipe)
+            return std::unexpected(recipe.error());
+        if (!recipe->days)
+            return refusal(ExitCode::usage,
+                           u"The recipe %1 does not ask how old a file is"_s.arg(recipe->id));
+        if (!plan.isChosen(*recipe) && !options.keeps)
+            return refusal(ExitCode::usage, u"The recipe %1 is not among those to be followed; add "
+                                            "--recipe %1"_s.arg(recipe->id));
+        plan.days.insert(recipe->id, days);
+    }
+    return {};
+}
+
+/// The folder as it is watched, or else as a folder without an identity.
+Chosen<WatchedFolder> folderToClean(const CleanupOptions& options,
+                                    const std::vector<WatchedFolder>& watched,
+                                    const Console& console, Services& services) {
+    if (const auto folder = watchedFolderAt(options.folder, watched, console, services))
+        return *folder;
+    else if (options.keeps)
+        return std::unexpected(folder.error());
+    const std::string path =
+        services.platform().fileSystem.resolved(absolutePath(options.folder, console));
+    if (!isValidUtf8(path))
+        return refusal(ExitCode::unreadable,
+                       u"The folder %1 can't be read: its path is not valid UTF-8"_s.arg(
+                           pathText(options.folder)));
+    WatchedFolder folder;
+    folder.id = QUuid();
+    folder.path = pathText(path);
+    return folder;
+}
+
+} // namespace
+
+std::vector<Rule> CleanupPlan::keptRules() const {
+    QSet<QString> names;
+    for (const Rule& rule : input.folder.rules)
+        names.insert(rule.name);
+    return conversionRules(recipes, chosen, days, input.folder, names);
+}
+
+Chosen<CleanupPlan> planCleanup(const CleanupOptions& options,
+                                const std::vector<WatchedFolder>& watched, const Console& console,
+                                Services& services) {
+    auto folder = folderToClean(options, watched, console, services);
+    if (!folder)
+        return std::unexpected(folder.error());
+    CleanupPlan plan;
+    plan.keeps = options.keeps;
+    plan.recipes = recipesFor(*folder);
+    if (const auto chosen = chooseRecipes(options, plan); !chosen)
+        return std::unexpected(chosen.error());
+    for (const CleanupRecipe& recipe : plan.recipes)
+        if (plan.isChosen(recipe))
+            plan.input.rules.push_back(recipe.makeRule(*folder, plan.daysOf(recipe)));
+
+    plan.input.folder = std::move(*folder);
+    plan.input.settings.mayContinue = console.mayContinue;
+    auto ready = services.engine(plan.input.settings).readyFiles(plan.input.folder);
+    if (!ready)
+        return refusal(ExitCode::unreadable, u"The folder %1 can't be read: %2"_s.arg(
+                                                 pathText(options.folder), ready.error().message));
+    plan.input.ready = std::move(*ready);
+    return plan;
+}
+
+} // namespace quillon

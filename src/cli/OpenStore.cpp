@@ -1,0 +1,29 @@
+#include "cli/OpenStore.h"
+
+#include "cli/StoreFailure.h"
+
+namespace quillon {
+
+using namespace Qt::Literals::StringLiterals;
+
+std::expected<StoreAccess, ExitCode> openStoreFor(const Console& console, Services& services) {
+    auto store = services.openStore();
+    if (!store)
+        return std::unexpected(sayStoreFailure(store.error(), console));
+    const QStringList warnings =
+        store->call([](AppStore& appStore) { return appStore.openingWarnings(); });
+    for (const QString& warning : warnings)
+        console.say(warning);
+    return *store;
+}
+
+ExitCode sayWhetherSaved(const StoreAccess& store, const Console& console) {
+    const auto error = store.call([](AppStore& appStore) { return appStore.lastSaveError(); });
+    if (!error)
+        return ExitCode::done;
+    console.say(u"The change can't be saved (%1); once that is put right, make it again"_s.arg(
+        error->message));
+    return ExitCode::someFailed;
+}
+
+} // namespace quillon
