@@ -10,6 +10,9 @@ std::expected<StoreAccess, ExitCode> openStoreFor(const Console& console, Servic
     auto store = services.openStore();
     if (!store)
         return std::unexpected(sayStoreFailure(store.error(), console));
+    // An instance has told them to its log when it was started.
+    if (services.isInstance())
+        return *store;
     const QStringList warnings =
         store->call([](AppStore& appStore) { return appStore.openingWarnings(); });
     for (const QString& warning : warnings)

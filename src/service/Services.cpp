@@ -188,7 +188,15 @@ Expected<StoreSnapshot> Services::viewStore() {
     return *snapshot;
 }
 
+bool Services::isInstance() const {
+    bool result = false;
+    onLoop([&] { result = store_ && store_->life == AppStore::Life::instance; });
+    return result;
+}
+
 Expected<AppStore*> Services::startInstance() {
+    if (store_)
+        return failure(ErrorKind::timedOut, QStringLiteral("Quillon is running already"));
     if (auto opened = open(AppStore::Life::instance); !opened)
         return std::unexpected(opened.error());
     return &store_->store;

@@ -34,6 +34,12 @@ public:
     /// anybody; see quillon::viewStore. From a thread other than the event loop's.
     [[nodiscard]] Expected<StoreSnapshot> viewStore();
 
+    /// Whether the store that is open here is that of the instance. From any thread.
+    [[nodiscard]] bool isInstance() const;
+
+    /// Whether the store that is open here is that of the instance. From any thread.
+    [[nodiscard]] bool isInstance() const;
+
     // On the event loop's thread.
 
     /// Opens the store as the one instance that lives on; fails with `timedOut` when there is one
