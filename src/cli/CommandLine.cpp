@@ -2,6 +2,7 @@
 
 #include "cli/VerbTable.h"
 #include "model/NearestWord.h"
+#include "service/CommandClient.h"
 #include "service/CommandThread.h"
 
 #include <optional>
@@ -83,7 +84,10 @@ ExitCode give(const Answer& answer, const Console& console) {
     return answer.code;
 }
 
-ExitCode carryOut(const Command& command, const Console& console, const UserFolders& folders) {
+ExitCode carryOut(const std::vector<std::string>& arguments, const Command& command,
+                  const Console& console, const UserFolders& folders) {
+    if (const auto code = carriedOutByInstance(arguments, console, folders))
+        return *code;
     Services services(folders);
     return onCommandThread(services, [&] { return command(console, services); });
 }
@@ -126,8 +130,9 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments, const Console
                         const std::function<UserFolders()>& folders) {
     const auto parsed = parseCommandLine(arguments);
     const auto* answer = std::get_if<Answer>(&parsed);
-    const ExitCode code =
-        answer ? give(*answer, console) : carryOut(std::get<Command>(parsed), console, folders());
+    const ExitCode code = answer
+                              ? give(*answer, console)
+                              : carryOut(arguments, std::get<Command>(parsed), console, folders());
     console.out.flush();
     console.err.flush();
     if (console.out || code != ExitCode::done)

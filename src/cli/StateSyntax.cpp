@@ -13,6 +13,10 @@ void addKey(CLI::App& parser, std::string& key) {
 
 } // namespace
 
+Command defineAgent(CLI::App& /*parser*/) {
+    return agentCommand;
+}
+
 Command definePause(CLI::App& /*parser*/) {
     return pauseCommand;
 }

@@ -37,6 +37,7 @@ namespace quillon {
 [[nodiscard]] Command defineLog(CLI::App& parser);
 [[nodiscard]] Command defineUndo(CLI::App& parser);
 
+[[nodiscard]] Command defineAgent(CLI::App& parser);
 [[nodiscard]] Command definePause(CLI::App& parser);
 [[nodiscard]] Command defineResume(CLI::App& parser);
 [[nodiscard]] Command defineStatus(CLI::App& parser);

@@ -64,6 +64,7 @@ constexpr Verb verbs[] = {
     {"log", "Show what has been done, newest first", "quillon log --errors --limit 20", defineLog},
     {"undo", "Put files back where they were", "quillon undo --last\nquillon undo 2C9E4B70",
      defineUndo},
+    {"agent", "Keep the watched folders tidy until asked to stop", "quillon agent", defineAgent},
     {"pause", "Tidy nothing by itself until resumed", "quillon pause", definePause},
     {"resume", "Tidy by itself again, beginning now", "quillon resume", defineResume},
     {"status", "Show what is watched and whether all is well", "quillon status", defineStatus},

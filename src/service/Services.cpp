@@ -220,13 +220,15 @@ void Services::close() {
 
 void Services::stopRequested() {
     if (stopHandler_)
-        stopHandler_();
-    else
-        hurry();
+        return stopHandler_();
+    isStopRequested_ = true;
+    hurry();
 }
 
 void Services::setStopHandler(std::function<void()> handler) {
     stopHandler_ = std::move(handler);
+    if (stopHandler_ && std::exchange(isStopRequested_, false))
+        stopHandler_();
 }
 
 void Services::onLoop(const std::function<void()>& work) const {

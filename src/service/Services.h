@@ -54,8 +54,10 @@ public:
     /// Lets the store go. Its thread waits for work that has not ended.
     void close();
 
-    /// Called when this process is asked to end. Unless a handler has been set, the store hurries.
+    /// To be called when this process is asked to end. Unless somebody handles it, the store
+    /// hurries.
     void stopRequested();
+    /// The handler is called at once for a request that has come already.
     void setStopHandler(std::function<void()> handler);
 
     /// Runs `work` on the event loop's thread and waits for it. From any thread.
@@ -71,6 +73,7 @@ private:
     std::unique_ptr<Machine> machine_;
     std::unique_ptr<OpenStore> store_; ///< on the event loop's thread alone
     std::function<void()> stopHandler_;
+    bool isStopRequested_ = false; ///< and nobody has handled it
 };
 
 } // namespace quillon

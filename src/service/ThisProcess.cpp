@@ -16,6 +16,11 @@ std::function<bool()> untilAskedToStop() {
     return [] { return !wasAskedToStop(); };
 }
 
+void becomeLongLived() {
+    noteEveryStopSignal();
+    ignoreBrokenPipes();
+}
+
 UserFolders currentUserFolders() {
     return userFolders();
 }

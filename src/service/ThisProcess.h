@@ -20,6 +20,10 @@ struct TerminalUse {
 /// from then on. To be called once, from main. A second request ends the process as usual.
 [[nodiscard]] std::function<bool()> untilAskedToStop();
 
+/// For a process that lives on: notes every request to end, and outlives whoever reads what it
+/// says.
+void becomeLongLived();
+
 [[nodiscard]] UserFolders currentUserFolders();
 
 [[nodiscard]] std::optional<std::string> environmentVariable(const char* name);
