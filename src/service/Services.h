@@ -37,9 +37,6 @@ public:
     /// Whether the store that is open here is that of the instance. From any thread.
     [[nodiscard]] bool isInstance() const;
 
-    /// Whether the store that is open here is that of the instance. From any thread.
-    [[nodiscard]] bool isInstance() const;
-
     // On the event loop's thread.
 
     /// Opens the store as the one instance that lives on; fails with `timedOut` when there is one
