@@ -148,13 +148,13 @@ public:
     };
     struct CleanupReport {
         RunResult run;
-        std::optional<Error> unsaved;
+        std::optional<Error> unsaved = {};
     };
     void runCleanup(Cleanup cleanup, std::function<void(CleanupReport)> done);
 
     struct UndoReport {
         std::vector<UndoOutcome> outcomes;
-        std::optional<Error> unsaved;
+        std::optional<Error> unsaved = {};
     };
     /// Takes back the entries with these ids, in log order. `progress` and `mayContinue` are called
     /// on the background thread.
@@ -190,10 +190,17 @@ Q_SIGNALS:
 
 private:
     struct State;
+
+    void startLiving();
+    void syncWatching();
+    void updateAttention();
+    void foldersEdited();
+    template <typename Edit>
+    bool update(const QUuid& folderID, const Edit& edit);
+    template <typename Edit>
+    void updateRule(const QUuid& ruleID, const QUuid& folderID, const Edit& edit);
+
     std::unique_ptr<State> state_;
 };
-
-/// The folders as they are watched: all of them, or, while paused, none live.
-[[nodiscard]] std::vector<WatchedFolder> effective(std::vector<WatchedFolder> folders, bool paused);
 
 } // namespace quillon

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "store/RunReport.h"
+#include "store/SettleRetries.h"
+#include "store/StoreCore.h"
+
+#include <functional>
+#include <map>
+#include <set>
+
+namespace quillon {
+
+/// The runs over watched folders: lists and tidies in the background, one run of a folder at a
+/// time, and takes the result into the store. On the store's thread.
+class TidyRuns {
+public:
+    /// Borrows the core.
+    explicit TidyRuns(StoreCore& core);
+
+    /// As AppStore::runRules.
+    std::uint64_t request(const QUuid& folderID, RunCause cause);
+    [[nodiscard]] std::uint64_t lastNumber() const { return lastNumber_; }
+    void afterRuns(std::uint64_t number, std::function<void()> done);
+
+    [[nodiscard]] SettleRetries& retries() { return retries_; }
+
+    /// Hands the questions that wait for the assistant on, and afterwards tidies the folders whose
+    /// rules may have been waiting for the answers. One hand-off at a time.
+    void resolveQuestions();
+
+private:
+    struct Request {
+        std::uint64_t number;
+        RunCause cause;
+    };
+    struct Run;
+
+    void start(const QUuid& folderID, const std::function<void()>& ended);
+    void takeIn(Run& run);
+    [[nodiscard]] bool mergeKeys(const Run& run);
+    void notify(const Run& run) const;
+    void retryLater(const Run& run);
+    void finished(std::uint64_t number);
+
+    StoreCore& core_;
+    SettleRetries retries_;
+    std::uint64_t lastNumber_ = 0;
+    std::map<QUuid, Request> waiting_; ///< one a folder that has not begun
+    std::set<std::uint64_t> unfinished_;
+    std::multimap<std::uint64_t, std::function<void()>> afterwards_;
+    bool isResolving_ = false;
+};
+
+} // namespace quillon
