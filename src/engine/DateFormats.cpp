@@ -31,15 +31,12 @@ std::unique_ptr<icu::SimpleDateFormat> makeFormat(const QString& pattern, const 
     return format;
 }
 
-std::optional<QString> formatted(const icu::SimpleDateFormat* format, Timestamp time) {
+std::optional<QString> formatted(const icu::DateFormat* format, Timestamp time) {
     if (!format)
         return std::nullopt;
     const auto moment = std::chrono::floor<std::chrono::milliseconds>(time).time_since_epoch();
     icu::UnicodeString text;
-    UErrorCode status = U_ZERO_ERROR;
-    format->format(static_cast<UDate>(moment.count()), text, nullptr, status);
-    if (U_FAILURE(status))
-        return std::nullopt;
+    format->format(static_cast<UDate>(moment.count()), text);
     return QString::fromUtf16(text.getBuffer(), text.length());
 }
 
@@ -62,6 +59,19 @@ QString DateFormats::month(Timestamp time) {
     if (std::optional<QString> text = formatted(formats_->month.get(), time))
         return *text;
     return format(pattern, time).value_or(pattern);
+}
+
+QString DateFormats::dateAndTime(Timestamp time, const QString& locale) {
+    const icu::Locale chosen =
+        locale.isEmpty() ? icu::Locale::getDefault() : icu::Locale(locale.toUtf8().constData());
+    const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
+        icu::DateFormat::kMedium, icu::DateFormat::kMedium, chosen));
+    if (format && formats_->zone)
+        format->setTimeZone(*formats_->zone);
+    const QString plain = QStringLiteral("yyyy-MM-dd HH:mm:ss");
+    return formatted(format.get(), time)
+        .or_else([&] { return this->format(plain, time); })
+        .value_or(plain);
 }
 
 } // namespace quillon

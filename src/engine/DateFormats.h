@@ -25,6 +25,10 @@ public:
     /// Year and month ("2024-05") with the digits and the calendar of the user's locale.
     [[nodiscard]] QString month(Timestamp time);
 
+    /// Abbreviated date and time of day to the second, as people of a locale ("de_DE") write them;
+    /// of the user's own when it is empty.
+    [[nodiscard]] QString dateAndTime(Timestamp time, const QString& locale);
+
 private:
     struct Formats;
     std::unique_ptr<Formats> formats_;
