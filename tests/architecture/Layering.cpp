@@ -72,7 +72,7 @@ private:
             checkSystemHeader(header.captured(1).toStdString());
         else if (!onLinux_ && conditional.match(text).hasMatch())
             say("conditional code outside of platform/linux");
-        if (rank_ > storeRank && object.match(text).hasMatch())
+        if (rank_ > storeRank && !onLinux_ && object.match(text).hasMatch())
             say("QObject below store");
     }
 

@@ -1,0 +1,89 @@
+#include "platform/linux/DesktopNotifier.h"
+
+#include "platform/linux/NotificationBus.h"
+
+#include <QThread>
+
+#include <mutex>
+#include <unordered_map>
+
+namespace quillon {
+namespace {
+
+// How long leaving waits for a thread that may itself be waiting for a bus without an answer; then
+// it is left behind.
+constexpr unsigned long patienceMs = 200;
+
+/// Carries what ends back to the thread of the event loop, for as long as anybody is there.
+struct Mailbox {
+    std::mutex mutex;
+    QObject* receiver = nullptr;
+
+    template <typename Call>
+    void post(Call call) {
+        const std::lock_guard lock(mutex);
+        if (receiver)
+            QMetaObject::invokeMethod(receiver, std::move(call), Qt::QueuedConnection);
+    }
+    void close() {
+        const std::lock_guard lock(mutex);
+        receiver = nullptr;
+    }
+};
+
+} // namespace
+
+struct DesktopNotifier::State {
+    QObject receiver;
+    std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
+    std::unordered_map<std::uint64_t, std::function<void()>> undos;
+    std::uint64_t lastToken = 0;
+    QThread* thread = nullptr;
+    NotificationBus* bus = nullptr; ///< on the thread, and gone with it
+
+    State() { mailbox->receiver = &receiver; }
+    ~State() {
+        mailbox->close();
+        if (!thread)
+            return;
+        thread->quit();
+        if (thread->wait(patienceMs))
+            delete thread;
+    }
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+
+    void start() {
+        thread = new QThread;
+        bus = new NotificationBus([this, box = mailbox](std::uint64_t token, bool chosen) {
+            box->post([this, token, chosen] { ended(token, chosen); });
+        });
+        bus->moveToThread(thread);
+        QObject::connect(thread, &QThread::finished, bus, &QObject::deleteLater);
+        thread->start();
+    }
+
+    void ended(std::uint64_t token, bool chosen) {
+        const auto undo = undos.extract(token);
+        if (chosen && undo)
+            undo.mapped()();
+    }
+};
+
+DesktopNotifier::DesktopNotifier() : state_(std::make_unique<State>()) {}
+DesktopNotifier::~DesktopNotifier() = default;
+
+void DesktopNotifier::post(const Notification& notification) {
+    State& state = *state_;
+    if (!state.thread)
+        state.start();
+    NotificationBus::Request request{.token = ++state.lastToken,
+                                     .title = notification.title,
+                                     .body = notification.body,
+                                     .offersUndo = bool(notification.undo)};
+    if (notification.undo)
+        state.undos.emplace(request.token, notification.undo);
+    QMetaObject::invokeMethod(state.bus, [bus = state.bus, request] { bus->show(request); });
+}
+
+} // namespace quillon

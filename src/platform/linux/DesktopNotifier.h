@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Notifier.h"
+
+#include <memory>
+
+namespace quillon {
+
+/// Notifications through the desktop's notification service. Talks to it on a thread of its own,
+/// which is started with the first notification, since connecting waits for the message bus.
+class DesktopNotifier final : public Notifier {
+public:
+    DesktopNotifier();
+    /// What is still to be shown, or chosen by the user, is dropped.
+    ~DesktopNotifier() override;
+    DesktopNotifier(const DesktopNotifier&) = delete;
+    DesktopNotifier& operator=(const DesktopNotifier&) = delete;
+
+    void post(const Notification& notification) override;
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+} // namespace quillon
