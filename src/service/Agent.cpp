@@ -91,10 +91,14 @@ private:
     void finishSoon() {
         if (std::exchange(isEnding_, true))
             return;
-        services_.finish([this] {
-            log_.add(u"stopped"_s);
-            ended_.set_value(store_->lastSaveError() ? ExitCode::someFailed : ExitCode::done);
-        });
+        const auto finish = [this] {
+            services_.finish([this] {
+                log_.add(u"stopped"_s);
+                ended_.set_value(store_->lastSaveError() ? ExitCode::someFailed : ExitCode::done);
+            });
+        };
+        // We may be within an earlier finish().
+        QMetaObject::invokeMethod(&context_, finish, Qt::QueuedConnection);
     }
 
     const Console& console_;

@@ -3,6 +3,9 @@
 #include "assistant/DobbinJudge.h"
 #include "platform/FileNames.h"
 #include "platform/linux/BsdtarArchives.h"
+#include "platform/linux/DesktopNotifier.h"
+#include "platform/linux/IniSettings.h"
+#include "platform/linux/InotifyWatching.h"
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxProcesses.h"
 #include "platform/linux/LinuxStorage.h"
@@ -36,28 +39,6 @@ std::string homeTrash(const UserFolders& folders) {
     return joinPath(parentPath(folders.data), "Trash");
 }
 
-class NullWatcher final : public FolderWatcher {
-    [[nodiscard]] std::optional<QString> warning() const override { return std::nullopt; }
-};
-class NullWatching final : public FolderWatching {
-    [[nodiscard]] std::unique_ptr<FolderWatcher> watch(const std::string& /*path*/,
-                                                       FolderWatchHandlers /*handlers*/) override {
-        return std::make_unique<NullWatcher>();
-    }
-};
-class NullNotifier final : public Notifier {
-    void post(const Notification& /*notification*/) override {}
-};
-class NullSettings final : public Settings {
-    [[nodiscard]] std::optional<QString> value(const QString& /*key*/) const override {
-        return std::nullopt;
-    }
-    [[nodiscard]] Expected<void> setValue(const QString& /*key*/,
-                                          const QString& /*value*/) override {
-        return {};
-    }
-};
-
 } // namespace
 
 struct Services::Machine {
@@ -86,7 +67,7 @@ struct Services::Machine {
                       .archives = archives,
                       .clock = clock,
                       .folders = folders};
-    NullSettings settings;
+    IniSettings settings{joinPath(folders.config, "Quillon.conf")};
     DobbinJudge judge{fileSystem, clock};
 };
 
@@ -94,8 +75,8 @@ struct Services::Machine {
 struct Services::OpenStore {
     EventLoopTimers timers;
     ThreadBackground background;
-    NullWatching watching;
-    NullNotifier notifier;
+    InotifyWatching watching;
+    DesktopNotifier notifier;
     NoQuestions resolver;
     AppStore::Life life;
     AppStore store;

@@ -46,7 +46,10 @@ public:
         std::ostringstream err;
         const Console console{
             .in = in, .out = out, .err = err, .colored = isTerminal, .showsProgress = isTerminal};
-        const UserFolders folders{.home = at(""), .data = at("data/Quillon"), .runtime = at("run")};
+        const UserFolders folders{.home = at(""),
+                                  .data = at("data/Quillon"),
+                                  .runtime = at("run"),
+                                  .config = at("config/Quillon")};
         const ExitCode code = runCommandLine(arguments, console, [&] { return folders; });
         return {code, out.str(), err.str()};
     }
