@@ -52,8 +52,10 @@ struct FolderSettings {
     std::optional<bool> isRecursive = {};
     std::optional<bool> onlyNewFiles = {};
     std::optional<bool> skipOnlineOnly = {};
-    std::optional<std::string> color = {}; ///< a number of the palette, or "none"
+    std::optional<std::optional<int>> color = {}; ///< of the palette; nothing inside: none
     std::optional<std::string> symbol = {};
+
+    bool operator==(const FolderSettings&) const = default;
 };
 
 /// Of `folder add` and `folder set`, and without the settings of `folder remove`.

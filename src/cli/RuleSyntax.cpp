@@ -69,6 +69,8 @@ Command defineRuleAdd(CLI::App& parser) {
                 "Give one of --then ACTION, --file RULES and --preset PRESET");
         if (options->actions.empty() && parser.count("--if") + parser.count("--name") > 0)
             throw CLI::ValidationError("--name and --if belong to --then ACTION");
+        if (!options->actions.empty() && options->conditions.empty())
+            throw CLI::ValidationError("--then ACTION needs --if CONDITION");
     });
     return bound<ruleAddCommand>(options);
 }

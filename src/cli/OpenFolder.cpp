@@ -1,0 +1,54 @@
+#include "cli/OpenFolder.h"
+
+#include "cli/LineBuffer.h"
+#include "cli/NamedFolder.h"
+#include "cli/OpenStore.h"
+#include "cli/RunOutput.h"
+#include "cli/StoreFailure.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+std::expected<OpenFolder, ExitCode> openFolder(const std::string& path, const Console& console,
+                                               Services& services) {
+    const auto store = openStoreFor(console, services);
+    if (!store)
+        return std::unexpected(store.error());
+    const auto folders = store->call([](AppStore& appStore) { return appStore.folders(); });
+    auto folder = watchedFolderAt(path, folders, console, services);
+    if (!folder)
+        return std::unexpected(sayRefusal(folder.error(), console));
+    return OpenFolder{.store = *store, .folder = std::move(*folder)};
+}
+
+std::expected<WatchedFolder, ExitCode> viewFolder(const std::string& path, const Console& console,
+                                                  Services& services) {
+    const auto view = services.viewStore();
+    if (!view)
+        return std::unexpected(sayStoreFailure(view.error(), console));
+    for (const QString& warning : view->warnings)
+        console.say(warning);
+    auto folder = watchedFolderAt(path, view->state.folders, console, services);
+    if (!folder)
+        return std::unexpected(sayRefusal(folder.error(), console));
+    return *folder;
+}
+
+ExitCode changeAndRun(const StoreAccess& store, const std::function<void(AppStore&)>& change,
+                      const QStringList& sentences, bool json, const Console& console) {
+    const std::vector<RunReport> reports = store.runsOf(change, console.mayContinue);
+    if (json)
+        return std::max(tellRunsAsJson(reports, console), sayWhetherSaved(store, console));
+    {
+        LineBuffer lines(console.out, console.colored);
+        for (const QString& sentence : sentences)
+            lines.add(sentence).endLine();
+        if (!reports.empty())
+            lines.endLine();
+        addRuns(reports, lines);
+    }
+    return std::max(sayHowRunsEnded(reports, console), sayWhetherSaved(store, console));
+}
+
+} // namespace quillon
