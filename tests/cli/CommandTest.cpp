@@ -1,5 +1,7 @@
 #include "cli/ProgressBar.h"
+#include "platform/linux/LinuxStorage.h"
 #include "service/ShownText.h"
+#include "store/StorePlaces.h"
 #include "support/CommandBench.h"
 #include "support/FakeClock.h"
 #include "support/PrintQt.h"
@@ -253,10 +255,9 @@ TEST_F(CommandTest, refusesToTidyWithoutALog) {
 }
 
 TEST_F(CommandTest, saysWhenAnotherIsAtWork) {
-    const UserFolders folders{
-        .home = bench_.at(""), .data = bench_.at("data/Quillon"), .runtime = bench_.at("run")};
-    Services other(folders);
-    const auto held = other.openStore();
+    fs::create_directories(bench_.at("data/Quillon"));
+    LinuxStorage storage;
+    const auto held = storage.tryLock(StorePlaces(bench_.at("data/Quillon")).lock());
     ASSERT_TRUE(held);
     const auto before = bench_.files();
     const auto result = run({"tidy", "@in", "--rules", "@rules.json"});
