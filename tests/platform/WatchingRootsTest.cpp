@@ -19,7 +19,6 @@ struct WatchingRootsTest : ::testing::Test {
     WatchBench bench;
     ScratchFolder& scratch = bench.scratch;
     Told told;
-    std::unique_ptr<FolderWatcher> watcher;
 
     void rename(const std::string& from, const std::string& to) {
         fs::rename(scratch.path(from), scratch.path(to));
@@ -39,7 +38,7 @@ private:
 };
 
 TEST_F(WatchingRootsTest, aFolderThatGoesAndComesBackIsWatchedAgain) {
-    watcher = bench.watch("home/me/in", told);
+    const auto watcher = bench.watch("home/me/in", told);
     expectBack("made later", [&] { scratch.makeFolder("home/me/in"); });
     expectBack("removed and made", [&] {
         fs::remove_all(scratch.path("home/me/in"));
@@ -88,7 +87,7 @@ TEST_F(WatchingRootsTest, aDriveThatIsUnpluggedAndPluggedInIsWatchedAgain) {
     if (!mount())
         GTEST_SKIP() << "only root may mount";
     scratch.makeFolder("drive/in/sub");
-    watcher = bench.watch("drive/in", told);
+    const auto watcher = bench.watch("drive/in", told);
     bench.settle();
     EXPECT_TRUE(bench.tells(told, [&] { EXPECT_EQ(::umount(drive.c_str()), 0); }));
     EXPECT_TRUE(mount());
@@ -104,12 +103,13 @@ TEST_F(WatchingRootsTest, allThatFallsIntoALargeTreeIsToldOf) {
     std::atomic<bool> isComplete = false;
     std::atomic<bool> isToldOfAll = false;
     InotifyWatching watching;
-    watcher = watching.watch(scratch.path("in"), {.changed =
-                                                      [&] {
-                                                          isToldOfAll = isComplete.load();
-                                                          told.handlers().changed();
-                                                      },
-                                                  .warningChanged = {}});
+    const auto watcher = watching.watch(scratch.path("in"), {.changed =
+                                                                 [&] {
+                                                                     isToldOfAll =
+                                                                         isComplete.load();
+                                                                     told.handlers().changed();
+                                                                 },
+                                                             .warningChanged = {}});
     for (int file = 0; file < 100'000; ++file) {
         const std::string name =
             scratch.path("in/" + std::to_string(file % 100) + "/file" + std::to_string(file));
@@ -129,7 +129,7 @@ TEST_F(WatchingRootsTest, whenMessagesAreLostAllFoldersCountAsChanged) {
     scratch.makeFolder("outside");
     scratch.makeFolder("calm");
     Told calm;
-    watcher = bench.watch("in", told);
+    const auto watcher = bench.watch("in", told);
     const auto other = bench.watch("calm", calm);
     std::atomic<bool> isHeld = false;
     std::atomic<bool> mayGoOn = false;
@@ -193,7 +193,7 @@ TEST_F(WatchingRootsTest, aNetworkDriveIsLookedAt) {
                                                   : std::nullopt;
                               }});
     scratch.makeFolder("Music/sub");
-    watcher = watching.watch(scratch.path("Music"), told.handlers());
+    const auto watcher = watching.watch(scratch.path("Music"), told.handlers());
     ASSERT_TRUE(told.wait([&] { return watcher->warning().has_value(); }));
     EXPECT_EQ(told.warnings(), 1);
     EXPECT_THAT(watcher->warning()->toStdString(),
@@ -211,7 +211,7 @@ TEST_F(WatchingRootsTest, moreFoldersThanMayBeWatchedAreLookedAt) {
     scratch.makeFolder("small");
     const auto other = watching.watch(scratch.path("small"), small.handlers());
     scratch.makeFolder("big");
-    watcher = watching.watch(scratch.path("big"), told.handlers());
+    const auto watcher = watching.watch(scratch.path("big"), told.handlers());
     for (int folder = 0; folder < 30; ++folder)
         scratch.makeFolder("big/" + std::to_string(folder) + "/sub");
     ASSERT_TRUE(told.wait([&] { return watcher->warning().has_value(); }));
