@@ -78,7 +78,7 @@ public:
         for (const std::string& folder : folders)
             for (const ListedFile* file : like(contents(folder).byDate, ticks(intent.status))) {
                 const std::string path = joinPath(folder, file->path);
-                if (!isLike(file->status, intent.status) || path == original)
+                if (!isLike(file->status, intent.status))
                     continue;
                 if (!cameAfter(file->status, intent.entry) && !mayBe(file->status))
                     continue;

@@ -3,6 +3,7 @@
 #include "model/JsonFields.h"
 #include "model/JsonText.h"
 #include "model/JsonWriter.h"
+#include "store/JsonStream.h"
 
 #include <QJsonDocument>
 
@@ -66,10 +67,18 @@ void PersistedState::addLogs(std::vector<LogEntry> entries) {
 QByteArray encodeState(const PersistedState& state) {
     QJsonObject object = state.other;
     object.insert("folders"_L1, jsonList(state.folders));
-    object.insert("logs"_L1, jsonList(state.logs));
     object.insert("processedFiles"_L1, processedToJson(state.processedFiles));
     object.insert("isPaused"_L1, state.isPaused);
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    QByteArray bytes = QJsonDocument(object).toJson(QJsonDocument::Compact);
+
+    // As a tree of values the log would take longer than all the rest.
+    JsonStream logs;
+    logs.beginObject().key("logs").beginList();
+    for (const LogEntry& entry : state.logs)
+        writeLogEntry(logs, entry, DateForm::stored);
+    logs.endList().endObject();
+    bytes.back() = ',';
+    return bytes.append(logs.take().sliced(1));
 }
 
 Expected<PersistedState> decodeState(const QByteArray& bytes, Timestamp now) {

@@ -32,6 +32,9 @@ Expected<StateFile::Loaded> StateFile::load(Timestamp now) {
     Expected<PersistedState> state = read(now);
     if (state)
         return Loaded{std::move(*state), std::nullopt};
+    // A disk or a machine in trouble says nothing about the file.
+    if (state.error().kind == ErrorKind::io)
+        return failedTo(u"%1 can't be read"_s.arg(pathText(path_)), state.error());
 
     const std::string wanted = path_ + ".unreadable-" + dateForName(now).toStdString();
     const Expected<std::string> kept = storage_.keepAside(path_, wanted);

@@ -23,8 +23,8 @@ public:
         std::optional<QString> warning; ///< a sentence: what was wrong and where the file is now
     };
     /// As read(), but a file that can't be used is first kept aside as
-    /// "store.json.unreadable-DATE", and the state is empty. Fails only when it can't be kept aside
-    /// either.
+    /// "store.json.unreadable-DATE", and the state is empty. Fails when it can't be kept aside
+    /// either, and with `io` when the system can't read it just now.
     [[nodiscard]] Expected<Loaded> load(Timestamp now);
 
     /// Durably. Bytes that this object wrote last and that are still there are not written again.

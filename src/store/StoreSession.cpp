@@ -32,6 +32,8 @@ Expected<void> StoreSession::openFiles() {
         return lock.error().kind == ErrorKind::timedOut ? std::unexpected(lock.error())
                                                         : failedTo(what, lock.error());
     lock_ = std::move(*lock);
+    // Whoever was killed in the middle of a save left the new file behind, hidden.
+    std::ignore = services_.storage.removeTemporaries(places_.folder, "own");
 
     auto loaded = stateFile_.load(services_.clock.now());
     if (!loaded)

@@ -131,6 +131,19 @@ const RecoveryCase recoveryCases[] = {
          intent.entry.currentPath = QString::fromStdString(bench.machine.at("One/a.txt"));
      },
      true, "copied to One", "One/a.txt", false, false},
+    {"copied, not recorded",
+     [](StoreBench& bench, Intent&, bool&) {
+         ASSERT_TRUE(bench.machine.platform.fileSystem.copy(bench.machine.at("a.txt"),
+                                                            bench.machine.at("One/a.txt")));
+     },
+     true, "copied to One, then interrupted", "One/a.txt", false, false},
+    {"moved as between two mounts and then renamed, not recorded",
+     [](StoreBench& bench, Intent&, bool&) {
+         ASSERT_TRUE(bench.machine.platform.fileSystem.copy(bench.machine.at("a.txt"),
+                                                            bench.machine.at("One/b.txt")));
+         fs::remove(bench.machine.at("a.txt"));
+     },
+     true, "moved to One, then interrupted", "One/b.txt", true, false},
     {"thrown away, not recorded",
      [](StoreBench& bench, Intent&, bool&) {
          ASSERT_TRUE(bench.machine.platform.trash.put(bench.machine.at("a.txt")));
@@ -234,6 +247,38 @@ TEST(UndoJournal, isReadableAtEveryMomentAndEmptyOnceSaved) {
     run = session->journal().beginRun();
     ASSERT_TRUE(run->intend({&intent, 1}));
     EXPECT_EQ(journalled().temporaryTag, "ours");
+}
+
+TEST(UndoJournal, forgetsOnlyTheRunsThatAreSaved) {
+    StoreBench bench;
+    const auto journalled = [&] {
+        QStringList names;
+        const std::string bytes = bench.machine.contents(bench.places.journal());
+        for (const JournalledFile& file : readJournal(QByteArray::fromStdString(bytes)).files)
+            names.append(file.intent.entry.fileName);
+        return names;
+    };
+    const auto session = bench.open();
+    UndoJournal& journal = session->journal();
+    const auto begin = [&](const char* name) {
+        bench.machine.write(name, "contents");
+        const Intent intent = bench.intentFor(name, {});
+        auto run = journal.beginRun();
+        EXPECT_TRUE(run->intend({&intent, 1}));
+        return run;
+    };
+    auto first = begin("a");
+    auto second = begin("b");
+    first.reset();
+    EXPECT_EQ(journalled(), (QStringList{u"a"_s, u"b"_s}));
+    ASSERT_TRUE(journal.markSaved());
+    EXPECT_EQ(journalled(), QStringList{u"b"_s});
+    auto third = begin("c");
+    second.reset();
+    EXPECT_EQ(journalled(), (QStringList{u"b"_s, u"c"_s}));
+    third.reset();
+    ASSERT_TRUE(journal.markSaved());
+    EXPECT_EQ(fs::file_size(bench.places.journal()), 0u);
 }
 
 TEST(StoreView, takesAJournalInOnlyWhenNobodyIsWritingIt) {

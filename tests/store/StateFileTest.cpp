@@ -7,7 +7,11 @@
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <barrier>
+#include <random>
 #include <ranges>
+#include <thread>
 
 namespace quillon::testing {
 namespace {
@@ -97,6 +101,121 @@ TEST(StateFile, keepsAsideWhatItCannotUse) {
         EXPECT_FALSE(fs::exists(bench.places.state()));
         ASSERT_TRUE(session->save());
         EXPECT_TRUE(viewStore(bench.places, bench.services));
+    }
+}
+
+/// One file in memory, and where it was kept aside.
+class OneFile : public LinuxStorage {
+public:
+    QByteArray bytes;
+    std::optional<QByteArray> kept;
+
+    Expected<QByteArray> readWhole(const std::string&, std::uint64_t) const override {
+        return bytes;
+    }
+    Expected<std::string> keepAside(const std::string&, const std::string& wanted) override {
+        kept = bytes;
+        return wanted;
+    }
+};
+
+TEST(StateFile, losesNothingThatItCannotDecode) {
+    PersistedState state;
+    state.folders.resize(2);
+    state.folders[0].path = u"/home/anna/Dönerladen"_s;
+    state.folders[0].rules.resize(2);
+    state.logs.resize(3);
+    state.processedFiles[u"F3A6C1D8-7B20-45E9-AD34-90C2B1E8F7A5"_s] = {u"key"_s};
+    const QByteArray whole = encodeState(state);
+    const auto isKeptOrDecoded = [](const QByteArray& bytes) {
+        OneFile storage;
+        storage.bytes = bytes;
+        const auto loaded = StateFile(storage, "/store.json").load({});
+        return loaded && loaded->warning.has_value() == storage.kept.has_value() &&
+               (!storage.kept || (*storage.kept == bytes && loaded->state == PersistedState{}));
+    };
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        ASSERT_TRUE(isKeptOrDecoded(whole.first(length))) << length;
+        ASSERT_FALSE(decodeState(whole.first(length), {})) << length;
+    }
+    std::minstd_rand random(1);
+    for (int flip = 0; flip < 10'000; ++flip) {
+        QByteArray bytes = whole;
+        const auto bit = static_cast<qsizetype>(random()) % (bytes.size() * 8);
+        bytes[bit / 8] = static_cast<char>(bytes[bit / 8] ^ (1 << (bit % 8)));
+        ASSERT_TRUE(isKeptOrDecoded(bytes)) << bit;
+    }
+}
+
+TEST(StateFile, isNotWrittenAgainWhenNothingHasChanged) {
+    StoreBench bench;
+    const auto session = bench.open();
+    const auto inode = [&] {
+        return bench.machine.platform.fileSystem.status(bench.places.state())->inode;
+    };
+    ASSERT_TRUE(session->save());
+    const auto first = inode();
+    ASSERT_TRUE(session->save());
+    EXPECT_EQ(inode(), first);
+    fs::remove(bench.places.state());
+    ASSERT_TRUE(session->save());
+    session->state().isPaused = true;
+    ASSERT_TRUE(session->save());
+    EXPECT_TRUE(viewStore(bench.places, bench.services)->state.isPaused);
+}
+
+TEST(StoreSession, rewritesAtLaunchWhatTheNextSaveCompletes) {
+    StoreBench bench;
+    const auto saved = [&] { return *StateFile(bench.storage, bench.places.state()).read({}); };
+    {
+        auto session = bench.open();
+        session->state().folders.resize(1);
+        session->state().logs.resize(2);
+        session->state().isPaused = true;
+        ASSERT_TRUE(session->save());
+    }
+    const PersistedState before = saved();
+    auto session = bench.open();
+    ASSERT_TRUE(session->rewriteAtLaunch());
+    EXPECT_EQ(saved(), before.foldersOnly());
+    EXPECT_EQ(*StateFile(bench.storage, bench.places.previous()).read({}), before);
+    EXPECT_EQ(viewStore(bench.places, bench.services)->state, before);
+    EXPECT_EQ(session->state(), before);
+    ASSERT_TRUE(session->save());
+    EXPECT_EQ(saved(), before);
+
+    // What can't be read of the one before is kept and said.
+    ASSERT_TRUE(session->rewriteAtLaunch());
+    session.reset();
+    std::ofstream(bench.places.previous()) << "{";
+    session = bench.open();
+    EXPECT_EQ(session->state(), before.foldersOnly());
+    ASSERT_EQ(session->warnings().size(), 1);
+    EXPECT_TRUE(session->warnings()[0].contains(u"store.json.previous.unreadable-"_s));
+}
+
+TEST(StoreSession, hasOneWriterHoweverManyStart) {
+    StoreBench bench;
+    for (int time = 0; time < 100; ++time) {
+        std::atomic<int> opened = 0;
+        std::barrier together(2);
+        const auto start = [&] {
+            LinuxStorage storage;
+            const StoreSession::Services own{.storage = storage,
+                                             .fileSystem = bench.services.fileSystem,
+                                             .clock = bench.clock,
+                                             .pause = [](std::chrono::milliseconds) {},
+                                             .trashPlaces = bench.services.trashPlaces,
+                                             .temporaryTag = "ours"};
+            together.arrive_and_wait();
+            const auto session = StoreSession::open(bench.places, own);
+            opened += session.has_value() ? 1 : 0;
+            together.arrive_and_wait();
+        };
+        std::thread other(start);
+        start();
+        other.join();
+        ASSERT_EQ(opened, 1);
     }
 }
 

@@ -97,6 +97,28 @@ TEST_F(UndoTest, saysThatAFileHasChangedSince) {
     EXPECT_EQ(undo(entry).note, u"it has been changed or replaced since"_s);
 }
 
+TEST_F(UndoTest, followsAFileBackThroughSeveralEntries) {
+    machine_.write("c.txt", "text");
+    const LogEntry second = logMove("b.txt", "c.txt");
+    const LogEntry first = logMove("a.txt", "b.txt");
+    for (const UndoOutcome& outcome : undo({second, first}))
+        EXPECT_TRUE(outcome.restored);
+    EXPECT_EQ(machine_.tree(), std::set<std::string>{"a.txt"});
+}
+
+TEST_F(UndoTest, stopsWhenAskedTo) {
+    machine_.write("out/a.txt", "");
+    machine_.write("out/b.txt", "");
+    const std::vector entries{logMove("a.txt", "out/a.txt"), logMove("b.txt", "out/b.txt")};
+    std::size_t done = 0;
+    const auto outcomes = Undo(machine_.platform.fileSystem, machine_.platform.trash, *run_)
+                              .run(
+                                  entries, [&](std::size_t count, std::size_t) { done = count; },
+                                  [&] { return done == 0; });
+    EXPECT_EQ(outcomes.size(), 1u);
+    EXPECT_EQ(machine_.tree(), (std::set<std::string>{"a.txt", "out/", "out/b.txt"}));
+}
+
 TEST_F(UndoTest, takesTheNewestWhoseFileIsStillThere) {
     const LogEntry gone = logMove("a.txt", "out/a.txt");
     const LogEntry there = logMove("b.txt", "out/b.txt");

@@ -61,7 +61,7 @@ Expected<std::string> throughLinks(const std::string& path) {
 Expected<Descriptor> makeTemporary(const std::string& path, std::string& name) {
     static std::atomic<unsigned> counter = 0;
     for (;;) {
-        name = joinPath(parentPath(path), ".quillon-own-" + std::to_string(::getpid()) + "-" +
+        name = joinPath(parentPath(path), ".quillon-own-" + std::to_string(::getpid()) +
                                               std::to_string(++counter) + ".part");
         constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
         Descriptor file(::open(name.c_str(), flags, S_IRUSR | S_IWUSR));
