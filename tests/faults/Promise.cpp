@@ -4,11 +4,12 @@
 #include <set>
 
 namespace quillon::testing {
-namespace {
 
 bool isHidden(const std::string& path) {
     return path.find("/.quillon-") != std::string::npos;
 }
+
+namespace {
 
 bool isWithin(const std::string& path, const std::string& folder) {
     return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
@@ -266,10 +267,6 @@ private:
 
 } // namespace
 
-bool isHidden(const std::string& path) {
-    return path.find("/.quillon-") != std::string::npos;
-}
-
 std::vector<std::string> forgotten(const World& world, const DiskState& after,
                                    const Report& recovered) {
     std::vector<std::string> sentences;
@@ -281,6 +278,9 @@ std::vector<std::string> forgotten(const World& world, const DiskState& after,
         if (thing.law == Law::moves && !after.contains(thing.path) &&
             std::ranges::none_of(recovered, leadsThere))
             sentences.push_back("nothing leads back to " + thing.path);
+        for (const Claim& claim : recovered)
+            if (thing.law == Law::moves && claim.thing == thing.path && !leadsThere(claim))
+                sentences.push_back("the log is wrong about " + thing.path + ": " + claim.place);
     }
     return sentences;
 }

@@ -27,7 +27,7 @@ struct Excuses {
 /// Whether the path is, or lies in, a temporary that nobody sees.
 [[nodiscard]] bool isHidden(const std::string& path);
 
-/// The moved things to which nothing in a recovered report leads.
+/// The moved things to which nothing in a recovered report leads, or something that is not so.
 [[nodiscard]] std::vector<std::string> forgotten(const World& world, const DiskState& after,
                                                  const Report& recovered);
 

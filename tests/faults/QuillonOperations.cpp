@@ -16,6 +16,9 @@
 #include "platform/linux/XattrProvenance.h"
 #include "platform/linux/XattrTags.h"
 #include "store/StoreSession.h"
+#include "store/Undo.h"
+
+#include <algorithm>
 
 namespace quillon::testing {
 namespace {
@@ -223,6 +226,91 @@ Report recoverTidying(const Places& places) {
     if (!session)
         return {};
     return reportOf((*session)->state().logs);
+}
+
+namespace {
+
+constexpr const char* undoneThings[] = {"out/a.pdf", "trash/files/c.log", "in/renamed.csv"};
+
+std::vector<LogEntry> undoableEntries(const Places& places) {
+    std::vector<LogEntry> entries;
+    for (const std::string name : undoneThings) {
+        LogEntry entry;
+        entry.date = SystemClock().now();
+        entry.undoable = true;
+        entry.originalPath =
+            QString::fromStdString(places.in + "/back" + name.substr(name.rfind('.')));
+        (name.starts_with("trash/") ? entry.trashedPath : entry.currentPath) =
+            QString::fromStdString(places.path(name));
+        entries.push_back(entry);
+    }
+    return entries;
+}
+
+std::string placeOf(const LogEntry& entry) {
+    return (entry.currentPath ? *entry.currentPath : *entry.trashedPath).toStdString();
+}
+
+} // namespace
+
+void logUndoable(const Places& places) {
+    Services services(places);
+    const auto session =
+        StoreSession::open(StorePlaces(places.data), storeServices(services, places));
+    if (!session)
+        return;
+    (*session)->state().addLogs(undoableEntries(places));
+    static_cast<void>((*session)->save());
+}
+
+Report undoLogged(const Places& places) {
+    Services services(places);
+    const auto session =
+        StoreSession::open(StorePlaces(places.data), storeServices(services, places));
+    if (!session)
+        return {};
+    std::vector<LogEntry>& logs = (*session)->state().logs;
+    auto run = (*session)->journal().beginRun();
+    const std::vector<UndoOutcome> outcomes =
+        Undo(services.fileSystem, services.trash, *run).run(logs);
+    Report report;
+    for (const UndoOutcome& outcome : outcomes) {
+        const std::string thing = placeOf(outcome.entry);
+        if (!outcome.restored) {
+            report.push_back(failed(thing, places.in, outcome.restored.error()));
+            continue;
+        }
+        report.push_back({thing, true, *outcome.restored, outcome.note.toStdString(), ""});
+        std::erase_if(logs, [&](const LogEntry& entry) { return entry.id == outcome.entry.id; });
+    }
+    run.reset();
+    static_cast<void>((*session)->save());
+    return report;
+}
+
+Report recoverUndoing(const Places& places) {
+    Services services(places);
+    const auto session =
+        StoreSession::open(StorePlaces(places.data), storeServices(services, places));
+    if (!session)
+        return {};
+    Report report;
+    for (const LogEntry& entry : undoableEntries(places)) {
+        const std::string thing = placeOf(entry);
+        const bool isLogged =
+            std::ranges::any_of((*session)->state().logs,
+                                [&](const LogEntry& logged) { return placeOf(logged) == thing; });
+        const std::string original = entry.originalPath->toStdString();
+        const std::string numbered =
+            places.path("in/back 2" + original.substr(original.rfind('.')));
+        const bool isNumbered = services.fileSystem.status(numbered).has_value();
+        report.push_back({thing, true,
+                          isLogged     ? thing
+                          : isNumbered ? numbered
+                                       : original,
+                          "", ""});
+    }
+    return report;
 }
 
 Report removeLeftovers(const Places& places) {

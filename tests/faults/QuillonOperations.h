@@ -26,6 +26,14 @@ inline constexpr const char* unpackedName = "in/photos";
 /// The next start after tidying was interrupted, and what the activity log says then.
 [[nodiscard]] Report recoverTidying(const Places& places);
 
+/// The things that a log tells of, under their old names "in/NAME", are to be taken back in one go.
+void logUndoable(const Places& places);
+[[nodiscard]] Report undoLogged(const Places& places);
+
+/// The next start after undoing was interrupted: for each thing, where the log says it is, or that
+/// it is back.
+[[nodiscard]] Report recoverUndoing(const Places& places);
+
 /// Takes away what a killed run left hidden in the folders that it worked in.
 [[nodiscard]] Report removeLeftovers(const Places& places);
 

@@ -120,6 +120,20 @@ Operation tidying() {
             {"in/Images"},
             tidyFolder,
             recoverTidying,
+            {},
+            true};
+}
+
+Operation undoing() {
+    Subject trashed = subject("trash/files/c.log", sampleFile("c", 30'000));
+    trashed.hasTrashRecord = true;
+    return {{subject("out/a.pdf", sampleFile("a", 40'000)), trashed,
+             subject("in/renamed.csv", sampleFile("d", 500))},
+            "in/back.pdf",
+            {},
+            undoLogged,
+            recoverUndoing,
+            logUndoable,
             true};
 }
 
@@ -175,6 +189,10 @@ std::vector<Scenario> makeScenarios() {
         {.name = "unpackElsewhere", .operation = unpacking(), .devices = trashElsewhere},
         {.name = "tidy", .operation = tidying()},
         {.name = "tidyAcross", .operation = tidying(), .devices = elsewhere},
+        {.name = "undo", .operation = undoing()},
+        {.name = "undoToTaken", .operation = undoing(), .wantedIsTaken = true},
+        {.name = "undoAcross", .operation = undoing(), .devices = elsewhere},
+        {.name = "undoFromTrashAcross", .operation = undoing(), .devices = trashElsewhere},
     };
 }
 

@@ -41,6 +41,8 @@ struct Operation {
     /// What the next start of the program does after this one was killed. Its report is about what
     /// it knows of the interrupted operation; things it doesn't mention are where they were.
     std::function<Report(const Places&)> recover = {};
+    /// What is to be so before; nobody is killed in it.
+    std::function<void(const Places&)> prepare = {};
     bool isJournalled = false; ///< after recovering, the way back to every moved file is known
 };
 

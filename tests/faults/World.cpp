@@ -193,6 +193,8 @@ void World::fill(const Scenario& scenario) {
             writeTrashRecord(path);
         things.push_back({path, subject.law, subject.contentsOnly, {subject.tree}});
     }
+    if (scenario.operation.prepare)
+        scenario.operation.prepare(places);
     before = read();
     for (Thing& thing : things)
         if (thing.law != Law::appears)
