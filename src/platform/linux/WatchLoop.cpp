@@ -8,7 +8,6 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/inotify.h>
-#include <unistd.h>
 #include <utility>
 
 namespace quillon {
