@@ -270,7 +270,9 @@ void AppStore::setPaused(bool paused) {
 
 void AppStore::addRules(std::vector<Rule> rules, const QUuid& folderID, RuleSource) {
     const bool isKnown = update(folderID, [&](WatchedFolder& folder) {
-        std::ranges::move(rules, std::back_inserter(folder.rules));
+        for (Rule& rule : rules)
+            folder.rules.push_back(findRule(folder.rules, rule.id) ? freshCopy(std::move(rule))
+                                                                   : std::move(rule));
     });
     if (isKnown)
         runRules(folderID);

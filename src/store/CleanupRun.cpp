@@ -35,23 +35,23 @@ void startCleanup(StoreCore& core, AppStore::Cleanup cleanup,
         done(std::move(run->report));
         ended();
     };
-    core.lanes.add(run->cleanup.folder.path,
-                   {.start =
-                        [&core, run, takeIn](const std::function<void()>& ended) {
-                            EngineSettings settings = run->cleanup.settings;
-                            settings.mayContinue = core.unlessHurried(settings.mayContinue);
-                            run->session = core.session;
-                            run->journal = core.session->journal().beginRun();
-                            run->engine.emplace(core.around.makeEngine(std::move(settings)));
-                            core.inBackground([run] { run->perform(); },
-                                              [takeIn, ended] { takeIn(ended); });
-                        },
-                    .drop =
-                        [run, done] {
-                            run->report.run.stopped =
-                                Error{ErrorKind::unsupported, u"Quillon is about to end"_s};
-                            done(std::move(run->report));
-                        }});
+    core.addWork(run->cleanup.folder.path,
+                 {.start =
+                      [&core, run, takeIn](const std::function<void()>& ended) {
+                          EngineSettings settings = run->cleanup.settings;
+                          settings.mayContinue = core.unlessHurried(settings.mayContinue);
+                          run->session = core.session;
+                          run->journal = core.session->journal().beginRun();
+                          run->engine.emplace(core.around.makeEngine(std::move(settings)));
+                          core.inBackground([run] { run->perform(); },
+                                            [takeIn, ended] { takeIn(ended); });
+                      },
+                  .drop =
+                      [run, done] {
+                          run->report.run.stopped =
+                              Error{ErrorKind::unsupported, u"Quillon takes on no more work"_s};
+                          done(std::move(run->report));
+                      }});
 }
 
 } // namespace quillon

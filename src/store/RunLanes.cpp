@@ -1,5 +1,9 @@
 #include "store/RunLanes.h"
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace quillon {
 
 void RunLanes::add(const QString& lane, Piece piece) {
@@ -25,8 +29,7 @@ void RunLanes::next(const QString& lane) {
         return;
     }
     waiting_.erase(queue);
-    if (isClosed_ && waiting_.empty())
-        idle_();
+    tellIfIdle();
 }
 
 void RunLanes::close(std::function<void()> idle) {
@@ -39,8 +42,16 @@ void RunLanes::close(std::function<void()> idle) {
     }
     for (const Piece& piece : dropped)
         piece.drop();
-    if (waiting_.empty())
-        idle_();
+    tellIfIdle();
+}
+
+void RunLanes::tellIfIdle() {
+    if (!isClosed_ || !waiting_.empty())
+        return;
+    // Whoever is told may end the lanes.
+    const std::function<void()> idle = std::exchange(idle_, {});
+    if (idle)
+        idle();
 }
 
 } // namespace quillon

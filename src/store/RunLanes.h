@@ -28,6 +28,7 @@ public:
 private:
     void begin(const QString& lane, const Piece& piece);
     void next(const QString& lane);
+    void tellIfIdle();
 
     std::map<QString, std::deque<Piece>> waiting_; ///< by lane, for each that is at work
     bool isClosed_ = false;

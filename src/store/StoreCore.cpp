@@ -20,6 +20,7 @@ StoreCore::StoreCore(AppStore& owner, std::unique_ptr<StoreSession> opened,
     const StorePlaces places(around.platform.folders.data);
     if (const auto bytes = around.storage.readWhole(places.memory(), largestMemory))
         memory.decode(*bytes);
+    memory.keepOnly(state().folders);
 }
 
 WatchedFolder* StoreCore::folder(const QUuid& folderID) {
@@ -41,6 +42,13 @@ void StoreCore::addLogs(const std::vector<LogEntry>& entries) {
         return;
     state().addLogs(entries);
     Q_EMIT store.recentLogsChanged();
+}
+
+void StoreCore::addWork(const QString& lane, RunLanes::Piece piece) {
+    if (isAtRest())
+        piece.drop();
+    else
+        lanes.add(lane, std::move(piece));
 }
 
 void StoreCore::inBackground(std::function<void()> work, std::function<void()> done) {

@@ -23,6 +23,9 @@ public:
     RunLanes lanes; ///< by the path of the folder that is tidied
     SaveKeeper saving;
 
+    /// Nothing new is begun: the store is ending, or a preview.
+    [[nodiscard]] bool isAtRest() const { return lanes.isClosed() || store.isPreview; }
+
     [[nodiscard]] PersistedState& state() { return session->state(); }
     [[nodiscard]] WatchedFolder* folder(const QUuid& folderID);
     [[nodiscard]] Timestamp now() const;
@@ -32,6 +35,8 @@ public:
     /// Puts them in front of the log.
     void addLogs(const std::vector<LogEntry>& entries);
 
+    /// Begins the piece when the lane is free, or drops it when nothing new is begun.
+    void addWork(const QString& lane, RunLanes::Piece piece);
     /// `done` is dropped when the store has gone by then.
     void inBackground(std::function<void()> work, std::function<void()> done);
     /// The call, made only while the store is there.

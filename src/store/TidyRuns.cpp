@@ -51,7 +51,7 @@ TidyRuns::TidyRuns(StoreCore& core)
 
 std::uint64_t TidyRuns::request(const QUuid& folderID, RunCause cause) {
     const WatchedFolder* const folder = core_.folder(folderID);
-    if (!folder || core_.lanes.isClosed() || core_.store.isPreview)
+    if (!folder || core_.isAtRest())
         return 0;
     if (const auto waiting = waiting_.find(folderID); waiting != waiting_.end()) {
         if (cause == RunCause::asked)
@@ -170,7 +170,7 @@ void TidyRuns::notify(const Run& run) const {
 
 void TidyRuns::retryLater(const Run& run) {
     const bool pausedMeanwhile = core_.state().isPaused && !run.beganPaused;
-    if (run.report.deferred > 0 && !pausedMeanwhile && !core_.lanes.isClosed())
+    if (run.report.deferred > 0 && !pausedMeanwhile && !core_.isAtRest())
         retries_.schedule(run.folder.id);
     else
         retries_.cancel(run.folder.id);
@@ -194,7 +194,7 @@ void TidyRuns::afterRuns(std::uint64_t number, std::function<void()> done) {
 
 void TidyRuns::resolveQuestions() {
     QuestionResolver& resolver = core_.around.resolver;
-    if (isResolving_ || core_.lanes.isClosed() || !resolver.hasPending())
+    if (isResolving_ || core_.isAtRest() || !resolver.hasPending())
         return;
     isResolving_ = true;
     const auto settled = std::make_shared<bool>(false);

@@ -99,30 +99,30 @@ void startUndo(StoreCore& core, std::vector<QUuid> entryIDs,
         if (run->done)
             run->done(std::move(run->report));
     };
-    core.lanes.add(
-        undoLane,
-        {.start =
-             [&core, run, finish](const std::function<void()>& ended) {
-                 run->session = core.session;
-                 run->journal = core.session->journal().beginRun();
-                 run->entries = chosen(core.state().logs, run->entryIDs);
-                 core.inBackground(
-                     [run, &platform = core.around.platform] { run->perform(platform); },
-                     [&core, run, finish, ended] {
-                         takeIn(core, *run);
-                         finish();
-                         ended();
-                     });
-             },
-         .drop =
-             [&core, run, finish] {
-                 for (const LogEntry& entry : chosen(core.state().logs, run->entryIDs))
-                     run->report.outcomes.push_back(
-                         {.entry = entry,
-                          .restored = failure(ErrorKind::unsupported, u"Quillon is about to end"_s),
-                          .note = {}});
-                 finish();
-             }});
+    core.addWork(undoLane,
+                 {.start =
+                      [&core, run, finish](const std::function<void()>& ended) {
+                          run->session = core.session;
+                          run->journal = core.session->journal().beginRun();
+                          run->entries = chosen(core.state().logs, run->entryIDs);
+                          core.inBackground(
+                              [run, &platform = core.around.platform] { run->perform(platform); },
+                              [&core, run, finish, ended] {
+                                  takeIn(core, *run);
+                                  finish();
+                                  ended();
+                              });
+                      },
+                  .drop =
+                      [&core, run, finish] {
+                          for (const LogEntry& entry : chosen(core.state().logs, run->entryIDs))
+                              run->report.outcomes.push_back(
+                                  {.entry = entry,
+                                   .restored = failure(ErrorKind::unsupported,
+                                                       u"Quillon takes on no more work"_s),
+                                   .note = {}});
+                          finish();
+                      }});
 }
 
 } // namespace quillon
