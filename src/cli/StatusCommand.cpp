@@ -55,7 +55,7 @@ std::vector<FolderStatus> folderStates(const StoreSnapshot& view, Timestamp now)
 }
 
 bool isAttentionNeeded(const StoreSnapshot& view, Timestamp now) {
-    return needsAttention(view.access, view.state.logs, now);
+    return needsAttention(view.state.folders, view.access, view.state.logs, now);
 }
 
 void printJson(const StoreSnapshot& view, const std::string& dataFolder, Timestamp now,
