@@ -48,7 +48,10 @@ bool cameAfter(const FileStatus& found, const LogEntry& entry) {
 /// however many files are looked for in it.
 class Finder {
 public:
-    explicit Finder(const FileSystem& fileSystem) : fileSystem_(fileSystem) {}
+    Finder(const FileSystem& fileSystem, const JournalContents& journal) : fileSystem_(fileSystem) {
+        for (const JournalledFile& file : journal.files)
+            known_.emplace(file.intent.status.device, file.intent.status.inode);
+    }
 
     /// Whether the file stands at `path`, however it looks now.
     bool stands(const std::string& path, const Intent& intent) const {
@@ -78,7 +81,9 @@ public:
         for (const std::string& folder : folders)
             for (const ListedFile* file : like(contents(folder).byDate, ticks(intent.status))) {
                 const std::string path = joinPath(folder, file->path);
-                if (!isLike(file->status, intent.status))
+                // Files that came at the same moment look alike; none is the copy of another.
+                if (!isLike(file->status, intent.status) ||
+                    known_.contains({file->status.device, file->status.inode}))
                     continue;
                 if (!cameAfter(file->status, intent.entry) && !mayBe(file->status))
                     continue;
@@ -124,13 +129,15 @@ private:
     }
 
     const FileSystem& fileSystem_;
+    std::set<std::pair<std::uint64_t, std::uint64_t>> known_; ///< every file of the journal
     std::map<std::string, Contents> folders_;
 };
 
 class Recovery {
 public:
-    Recovery(const FileSystem& fileSystem, const TrashPlaces& trashPlaces)
-        : finder_(fileSystem), fileSystem_(fileSystem), trashPlaces_(trashPlaces) {}
+    Recovery(const FileSystem& fileSystem, const TrashPlaces& trashPlaces,
+             const JournalContents& journal)
+        : finder_(fileSystem, journal), fileSystem_(fileSystem), trashPlaces_(trashPlaces) {}
 
     std::optional<LogEntry> entryOf(const JournalledFile& file) {
         const Intent& intent = file.intent;
@@ -138,7 +145,7 @@ public:
         if (finder_.stands(place, intent))
             return whereItStands(file);
         if (const auto found = finder_.find(intent.targetFolders, intent))
-            return movedTo(file, *found);
+            return *found == place ? soFar(file) : std::optional(movedTo(file, *found));
         const std::string folder(parentPath(intent.entry.originalPath->toStdString()));
         if (const auto found = finder_.find(trashPlaces_(folder), intent))
             return trashedAt(file, *found);
@@ -227,7 +234,7 @@ std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
         if (!file.isUndo && known.contains(file.intent.entry.id))
             savedRuns.insert(file.run);
 
-    Recovery recovery(fileSystem, trashPlaces);
+    Recovery recovery(fileSystem, trashPlaces, journal);
     std::vector<LogEntry> entries;
     for (const JournalledFile& file : journal.files)
         if (!file.isUndo && !savedRuns.contains(file.run))
@@ -238,7 +245,7 @@ std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
 
 std::size_t dropTakenBack(const JournalContents& journal, std::vector<LogEntry>& logs,
                           const FileSystem& fileSystem) {
-    Finder finder(fileSystem);
+    Finder finder(fileSystem, journal);
     const auto none = [](const FileStatus&) { return false; };
     std::size_t dropped = 0;
     for (const JournalledFile& file : journal.files) {

@@ -24,6 +24,7 @@ struct StoreCase {
     /// What the log then tells. Where the operation did not say that it had succeeded, it may be as
     /// if it had not been.
     const char* log;
+    bool looksForFiles = false; ///< and has to do with what it can see of them
 };
 
 void PrintTo(const StoreCase& c, std::ostream* out) {
@@ -163,10 +164,12 @@ const StoreCase storeCases[] = {
      withThird},
     {"aRecovery", interruptFirst, openOnly,
      "c.txt moved to One; d.txt moved to One, then interrupted; a moved to One; b moved to One; "
-     "f.txt "},
+     "f.txt ",
+     true},
     {"aRecoveryAndALaunch", interruptFirst, launch,
      "c.txt moved to One; d.txt moved to One, then interrupted; a moved to One; b moved to One; "
-     "f.txt "},
+     "f.txt ",
+     true},
 };
 
 class StoreSafety : public ::testing::TestWithParam<StoreCase> {
@@ -238,7 +241,10 @@ TEST_P(StoreSafety, eachCallFails) {
         return ordinarily(Machine::able, stop);
     });
     for (const SyscallStop& call : calls)
-        for (const int error : possibleErrors(call)) {
+        for (const std::vector<int> errors = possibleErrors(call); const int error : errors) {
+            const bool isWriting = std::ranges::find(errors, ENOSPC) != errors.end();
+            if (GetParam().looksForFiles && !isWriting)
+                continue;
             SCOPED_TRACE(syscallName(call.number) + " #" + std::to_string(call.index) + " " +
                          strerrorname_np(error));
             const TracedEnd end = runAndLook([&](const SyscallStop& stop) {
