@@ -1,9 +1,11 @@
 #include "platform/linux/DesktopNotifier.h"
 
+#include "platform/FileNames.h"
 #include "platform/linux/NotificationBus.h"
 
 #include <QThread>
 
+#include <filesystem>
 #include <mutex>
 #include <unordered_map>
 
@@ -13,6 +15,18 @@ namespace {
 // How long leaving waits for a thread that may itself be waiting for a bus without an answer; then
 // it is left behind.
 constexpr unsigned long patienceMs = 200;
+
+/// Empty when there is none. Left to itself, the library would start a bus of its own.
+QString sessionBus(const Environment& environment) {
+    if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"); address && !address->empty())
+        return QString::fromStdString(*address);
+    const auto runtime = environment("XDG_RUNTIME_DIR");
+    const std::string socket = runtime ? joinPath(*runtime, "bus") : std::string();
+    std::error_code ignored;
+    return std::filesystem::is_socket(socket, ignored)
+               ? QStringLiteral("unix:path=") + QString::fromStdString(socket)
+               : QString();
+}
 
 /// Carries what ends back to the thread of the event loop, for as long as anybody is there.
 struct Mailbox {
@@ -34,6 +48,7 @@ struct Mailbox {
 } // namespace
 
 struct DesktopNotifier::State {
+    QString address;
     QObject receiver;
     std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
     std::unordered_map<std::uint64_t, std::function<void()>> undos;
@@ -41,7 +56,9 @@ struct DesktopNotifier::State {
     QThread* thread = nullptr;
     NotificationBus* bus = nullptr; ///< on the thread, and gone with it
 
-    State() { mailbox->receiver = &receiver; }
+    explicit State(QString busAddress) : address(std::move(busAddress)) {
+        mailbox->receiver = &receiver;
+    }
     ~State() {
         mailbox->close();
         if (!thread)
@@ -55,7 +72,7 @@ struct DesktopNotifier::State {
 
     void start() {
         thread = new QThread;
-        bus = new NotificationBus([this, box = mailbox](std::uint64_t token, bool chosen) {
+        bus = new NotificationBus(address, [this, box = mailbox](std::uint64_t token, bool chosen) {
             box->post([this, token, chosen] { ended(token, chosen); });
         });
         bus->moveToThread(thread);
@@ -70,11 +87,14 @@ struct DesktopNotifier::State {
     }
 };
 
-DesktopNotifier::DesktopNotifier() : state_(std::make_unique<State>()) {}
+DesktopNotifier::DesktopNotifier(const Environment& environment)
+    : state_(std::make_unique<State>(sessionBus(environment))) {}
 DesktopNotifier::~DesktopNotifier() = default;
 
 void DesktopNotifier::post(const Notification& notification) {
     State& state = *state_;
+    if (state.address.isEmpty())
+        return;
     if (!state.thread)
         state.start();
     NotificationBus::Request request{.token = ++state.lastToken,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Notifier.h"
+#include "platform/linux/LinuxUserFolders.h"
 
 #include <memory>
 
@@ -10,7 +11,8 @@ namespace quillon {
 /// which is started with the first notification, since connecting waits for the message bus.
 class DesktopNotifier final : public Notifier {
 public:
-    DesktopNotifier();
+    /// The session's message bus is where the variables of the environment say.
+    explicit DesktopNotifier(const Environment& environment = processEnvironment);
     /// What is still to be shown, or chosen by the user, is dropped.
     ~DesktopNotifier() override;
     DesktopNotifier(const DesktopNotifier&) = delete;

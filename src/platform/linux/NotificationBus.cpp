@@ -33,8 +33,10 @@ QString escaped(QString text) {
 
 } // namespace
 
-NotificationBus::NotificationBus(Ended ended)
-    : ended_(std::move(ended)), connectionName_(u"quillon-"_s + QUuid::createUuid().toString()) {}
+NotificationBus::NotificationBus(QString address, Ended ended)
+    : address_(std::move(address))
+    , ended_(std::move(ended))
+    , connectionName_(u"quillon-"_s + QUuid::createUuid().toString()) {}
 
 NotificationBus::~NotificationBus() {
     disconnectFromBus();
@@ -56,8 +58,8 @@ bool NotificationBus::connectToBus() {
     if (connection_ && connection_->isConnected())
         return true;
     disconnectFromBus();
-    connection_ = std::make_unique<QDBusConnection>(
-        QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName_));
+    connection_ =
+        std::make_unique<QDBusConnection>(QDBusConnection::connectToBus(address_, connectionName_));
     if (!connection_->isConnected()) {
         disconnectFromBus();
         return false;

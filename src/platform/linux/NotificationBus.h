@@ -31,8 +31,8 @@ public:
     /// Nothing more will come of the token; `chosen` when the user has chosen "Undo".
     using Ended = std::function<void(std::uint64_t token, bool chosen)>;
 
-    /// `ended` is called on this object's thread.
-    explicit NotificationBus(Ended ended);
+    /// `address` is that of the message bus; `ended` is called on this object's thread.
+    NotificationBus(QString address, Ended ended);
     ~NotificationBus() override;
 
     void show(const Request& request);
@@ -57,6 +57,7 @@ private:
     void dropWaiting();
     void end(uint id, bool chosen);
 
+    QString address_;
     Ended ended_;
     QString connectionName_;
     std::unique_ptr<QDBusConnection> connection_;
