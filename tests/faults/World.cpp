@@ -245,7 +245,7 @@ void World::replace(Thing& thing) {
     struct stat status {};
     if (lstat(path.c_str(), &status) != 0)
         return;
-    const std::string other = places.in + "/saving";
+    const std::string other = path.substr(0, path.rfind('/')) + "/saving";
     writeItem(other, sampleFile("saved anew", 5000));
     if (rename(other.c_str(), path.c_str()) == 0)
         thing.versions.push_back(treeAt(read(), thing.path));
