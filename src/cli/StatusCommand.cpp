@@ -35,12 +35,6 @@ std::optional<Timestamp> nextRun(const WatchedFolder& folder, const StoreSnapsho
     return *last + *interval;
 }
 
-std::size_t recentErrors(const std::vector<LogEntry>& logs, const QUuid& folderID, Timestamp now) {
-    return std::size_t(std::ranges::count_if(logs, [&](const LogEntry& entry) {
-        return entry.folderID == folderID && isRecentError(entry, now);
-    }));
-}
-
 std::vector<FolderStatus> folderStates(const StoreSnapshot& view, Timestamp now) {
     std::vector<FolderStatus> states;
     for (const WatchedFolder& folder : view.state.folders)
@@ -49,7 +43,7 @@ std::vector<FolderStatus> folderStates(const StoreSnapshot& view, Timestamp now)
              .access = view.access.value(folder.id, FolderAccess::ok),
              .rulesOn = std::size_t(std::ranges::count_if(folder.rules, &Rule::isEnabled)),
              .isSettling = view.settling.contains(folder.id),
-             .recentErrors = recentErrors(view.state.logs, folder.id, now),
+             .recentErrors = recentErrorCount(view.state.logs, folder.id, now),
              .nextRun = nextRun(folder, view)});
     return states;
 }
