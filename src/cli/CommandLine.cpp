@@ -75,7 +75,7 @@ Answer answerWithoutVerb(std::span<const std::string> arguments) {
     app.set_version_flag("--version", "quillon " QUILLON_VERSION)->description("Show the version");
     app.footer(std::string("quillon COMMAND --help shows an example of each.\n") + exitCodes);
     for (const std::string& word : wordsBelow({}))
-        app.add_subcommand(word, findVerb(word)->description);
+        app.add_subcommand(word, findVerb(word)->description)->group("Commands");
     return parse(app, arguments).value_or(Answer{app.help(), ExitCode::usage});
 }
 

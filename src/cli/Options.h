@@ -149,4 +149,13 @@ struct SettingsOptions {
     bool json = false;
 };
 
+struct CompletionsOptions {
+    std::string (*script)() = nullptr; ///< makes the shell's script
+};
+
+struct ManualOptions {
+    std::string verb; ///< or a noun; empty: the whole command
+    bool listsPages = false;
+};
+
 } // namespace quillon

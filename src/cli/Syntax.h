@@ -46,4 +46,7 @@ namespace quillon {
 [[nodiscard]] Command defineSettingsGet(CLI::App& parser);
 [[nodiscard]] Command defineSettingsSet(CLI::App& parser);
 
+[[nodiscard]] Command defineCompletions(CLI::App& parser);
+[[nodiscard]] Command defineManual(CLI::App& parser);
+
 } // namespace quillon

@@ -76,6 +76,10 @@ constexpr Verb verbs[] = {
      defineSettingsGet},
     {"settings set", "Change a setting", "quillon settings set notificationsEnabled false",
      defineSettingsSet},
+
+    {"completions", "Print a script that completes this command in a shell",
+     "source <(quillon completions bash)", defineCompletions},
+    {"manual", "Print a manual page", "quillon manual rule | man -l -", defineManual},
 };
 
 /// A name cut before its last word.
@@ -116,7 +120,6 @@ void styleHelp(CLI::App& app) {
     formatter->column_width(34);
     formatter->label("REQUIRED", "");
     formatter->label("SUBCOMMAND", "COMMAND");
-    formatter->label("Subcommands", "Commands");
     formatter->label("Positionals", "Arguments");
     app.formatter(formatter);
 }
@@ -130,7 +133,8 @@ VerbParser::VerbParser(const Verb& verb)
         return;
     }
     for (const std::string& word : wordsBelow(verb.name))
-        app.add_subcommand(word, findVerb(std::string(verb.name) + ' ' + word)->description);
+        app.add_subcommand(word, findVerb(std::string(verb.name) + ' ' + word)->description)
+            ->group("Commands");
     app.footer("quillon " + std::string(verb.name) + " COMMAND --help shows an example of each.");
 }
 

@@ -46,4 +46,7 @@ namespace quillon {
 [[nodiscard]] ExitCode presetAddCommand(const PresetAddOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode recipeListCommand(const RecipeListOptions&, const Console&, Services&);
 
+[[nodiscard]] ExitCode completionsCommand(const CompletionsOptions&, const Console&, Services&);
+[[nodiscard]] ExitCode manualCommand(const ManualOptions&, const Console&, Services&);
+
 } // namespace quillon
