@@ -5,6 +5,18 @@
 #include <utility>
 
 namespace quillon {
+namespace {
+
+/// ASCII letters alone.
+std::string inLowerCase(std::string_view text) {
+    std::string lower(text);
+    for (char& c : lower)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    return lower;
+}
+
+} // namespace
 
 std::size_t changedLetters(std::string_view one, std::string_view other) {
     std::vector<std::size_t> row(other.size() + 1);
@@ -21,9 +33,11 @@ std::size_t changedLetters(std::string_view one, std::string_view other) {
 }
 
 std::string nearestWord(std::string_view word, const std::vector<std::string>& words) {
+    const std::string wanted = inLowerCase(word);
     // A word that is only cut short is nearer than one that happens to be as short.
-    return *std::ranges::min_element(words, {}, [&](const std::string& candidate) {
-        return std::pair(!candidate.starts_with(word), changedLetters(word, candidate));
+    return *std::ranges::min_element(words, {}, [&](const std::string& each) {
+        const std::string candidate = inLowerCase(each);
+        return std::pair(!candidate.starts_with(wanted), changedLetters(wanted, candidate));
     });
 }
 
