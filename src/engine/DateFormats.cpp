@@ -36,7 +36,10 @@ std::optional<QString> formatted(const icu::DateFormat* format, Timestamp time) 
         return std::nullopt;
     const auto moment = std::chrono::floor<std::chrono::milliseconds>(time).time_since_epoch();
     icu::UnicodeString text;
-    format->format(static_cast<UDate>(moment.count()), text);
+    UErrorCode status = U_ZERO_ERROR;
+    format->format(static_cast<UDate>(moment.count()), text, nullptr, status);
+    if (U_FAILURE(status))
+        return std::nullopt;
     return QString::fromUtf16(text.getBuffer(), text.length());
 }
 

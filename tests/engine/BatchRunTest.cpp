@@ -1,5 +1,6 @@
 #include "engine/BatchRun.h"
 
+#include "engine/RunRestraint.h"
 #include "support/ActionBench.h"
 #include "support/PrintQt.h"
 
@@ -93,6 +94,8 @@ TEST_F(BatchRunTest, holdsBackOnlyTheFilesThatWaitForTheAssistant) {
     asking.conditions[0] = {.attribute = ConditionAttribute::dobbinSays, .value = u"a bill"_s};
     const RunResult result = run({asking, ruleFor(u"rest"_s, u""_s, {renameBy(u"done"_s)})});
     EXPECT_EQ(result.waiting, QStringList{u"a.txt"_s});
+    ASSERT_EQ(result.waitingKeys.size(), 1);
+    EXPECT_EQ(keyPath(*result.waitingKeys.begin()), QString::fromStdString(machine_.at("a.txt")));
     EXPECT_EQ(machine_.tree(), (std::set<std::string>{"a.txt", "done.txt"}));
 }
 
@@ -158,6 +161,60 @@ TEST_F(BatchRunTest, endsBetweenTwoFilesWhenAsked) {
     EXPECT_TRUE(result.interrupted);
     EXPECT_EQ(result.entries.size(), 2U);
     EXPECT_EQ(machine_.tree(), std::set<std::string>{"c.txt"});
+}
+
+/// Refuses the files whose keys it knows.
+class Refusal : public RunRestraint {
+public:
+    QSet<QString> keys;
+    bool mayAct(const Rule&, const QString& fileKey) override { return !keys.contains(fileKey); }
+};
+
+TEST_F(BatchRunTest, saysWhatARuleActedOnAndLeavesAloneWhatItMustNot) {
+    const RuleAction nowhere = moveTo(u"relative"_s);
+    const RuleAction copies = moveTo(u"~/work/Copies"_s, ActionType::copy);
+    const RuleAction trash = makeAction(ActionType::trash);
+    const struct {
+        std::vector<RuleAction> actions;
+        bool acted;
+        QString after; ///< relative to the folder
+        qsizetype copies = 0;
+    } cases[] = {
+        {{nowhere}, false, {}},
+        {{renameBy(u"{name}"_s)}, false, {}},
+        {{nowhere, renameBy(u"b"_s)}, true, u"b.txt"_s},
+        {{moveTo(u"~/work/Out"_s)}, true, u"Out/a.txt"_s},
+        {{copies}, true, u"a.txt"_s, 1},
+        {{copies, trash}, true, {}, 1},
+        {{runScript(u"false"_s)}, true, u"a.txt"_s},
+        {{runScript(u"rm \"$1\""_s)}, true, {}},
+        {{runShortcut(u"absent"_s)}, false, {}},
+    };
+    const QString root = QString::fromStdString(machine_.work()) + u'/';
+    for (const auto& c : cases) {
+        machine_.write("a.txt", "text");
+        Refusal refusal;
+        refusal.keys = run({}).seenKeys;
+        settings_.restraint = &refusal;
+        const std::vector<Rule> rules{ruleFor(u"r"_s, u"a.txt"_s, c.actions),
+                                      ruleFor(u"later"_s, u"a.txt"_s, {trash})};
+        const RunResult refused = run(rules);
+        EXPECT_TRUE(refused.entries.empty() && refused.handled.empty());
+        EXPECT_EQ(refused.seenKeys, refusal.keys);
+        settings_.restraint = nullptr;
+
+        const RunResult result = run(rules);
+        SCOPED_TRACE(result.entries.empty() ? "" : result.entries[0].actionSummary.toStdString());
+        ASSERT_EQ(result.handled.size(), c.acted ? 1U : 0U);
+        if (c.acted) {
+            const HandledFile& handled = result.handled[0];
+            EXPECT_EQ(handled.keyBefore, *refusal.keys.begin());
+            EXPECT_EQ(keyPath(handled.keyAfter), c.after.isEmpty() ? QString() : root + c.after);
+            EXPECT_EQ(handled.copyKeys.size(), c.copies);
+        }
+        std::filesystem::remove_all(machine_.work());
+        machine_.makeFolder("");
+    }
 }
 
 TEST_F(BatchRunTest, touchesNothingWithoutItsJournal) {

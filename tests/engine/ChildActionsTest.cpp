@@ -167,8 +167,8 @@ TEST_F(Unpacking, MakesOneFolderHoweverOftenTheTrashRefusesTheArchive) {
         Expected<std::string> put(const std::string&) override {
             return failure(ErrorKind::unsupported, u"there is no trash here"_qs);
         }
-        Expected<std::string> restore(const std::string&, const std::string&) override {
-            return put({});
+        Expected<Placement> restore(const std::string&, const std::string&) override {
+            return failure(ErrorKind::unsupported, u"there is no trash here"_qs);
         }
     } trash;
     packPhotos("photos.zip");
