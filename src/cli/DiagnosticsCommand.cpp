@@ -39,7 +39,7 @@ ExitCode diagnosticsCommand(const DiagnosticsOptions& options, const Console& co
     const QString report = diagnosticsReport(view->state.folders, view->access, view->state.logs,
                                              view->warnings + view->watchWarnings,
                                              {.appVersion = QStringLiteral(QUILLON_VERSION),
-                                              .name = u"Linux"_s,
+                                              .name = systemName.toString(),
                                               .version = QSysInfo::prettyProductName(),
                                               .now = services.platform().clock.now()});
     const QByteArray bytes = report.toUtf8() + '\n';
