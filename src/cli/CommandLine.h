@@ -28,7 +28,8 @@ parseCommandLine(const std::vector<std::string>& arguments);
 [[nodiscard]] ExitCode carryOutCommandLine(const std::vector<std::string>& arguments,
                                            const Console& console, Services& services);
 
-/// Parses and carries out, as a whole process does, on its first thread. `folders` is asked only when a verb needs them.
+/// Parses and carries out, as a whole process does, on its first thread. `folders` is asked only
+/// when a verb needs them.
 [[nodiscard]] ExitCode runCommandLine(const std::vector<std::string>& arguments,
                                       const Console& console,
                                       const std::function<UserFolders()>& folders);

@@ -20,7 +20,10 @@ public:
     Agent(const Console& console, Services& services)
         : console_(console), services_(services), log_(console.err, services.platform().clock) {}
 
-    ~Agent() { services_.setStopHandler({}); }
+    ~Agent() {
+        if (server_)
+            services_.setStopHandler({});
+    }
     Agent(const Agent&) = delete;
     Agent& operator=(const Agent&) = delete;
 

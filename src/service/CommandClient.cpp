@@ -54,7 +54,8 @@ public:
             console_.say(u"The command line is too long for the running Quillon"_s);
             return ExitCode::usage;
         }
-        return socket_.send(encodeFrame(FrameType::request, request)) ? follow() : lost();
+        isAsked_ = socket_.send(encodeFrame(FrameType::request, request));
+        return isAsked_ ? follow() : lost();
     }
 
 private:
@@ -100,7 +101,7 @@ private:
                 frame_ = std::move(**frame);
                 return Received::frame;
             }
-            if (!isCancelled_ && console_.mayContinue && !console_.mayContinue()) {
+            if (isAsked_ && !isCancelled_ && console_.mayContinue && !console_.mayContinue()) {
                 isCancelled_ = true;
                 std::ignore = socket_.send(encodeFrame(FrameType::cancel));
             }
@@ -138,6 +139,7 @@ private:
     FrameReader reader_;
     Frame frame_{};
     bool isHung_ = false;
+    bool isAsked_ = false; ///< the request is sent
     bool isCancelled_ = false;
 };
 

@@ -38,8 +38,9 @@ void CommandConnection::serve(
                           .workingFolder = request->workingFolder,
                           .mayContinue = [this] { return mayContinue(); }};
     const ExitCode code = run(request->arguments, console);
-    out.flush();
-    err.flush();
+    // Sent even when the command has left the streams in a failed state.
+    (void)out.rdbuf()->pubsync();
+    (void)err.rdbuf()->pubsync();
     send(FrameType::ended, std::string(1, char(code)));
     // What has been sent still arrives.
     hangUp();
@@ -110,7 +111,7 @@ std::optional<Frame> CommandConnection::receive(SteadyClock::time_point deadline
 void CommandConnection::lookForCancel() {
     nextLook_ = SteadyClock::now() + betweenLooks;
     // Nothing but a cancel may come unasked.
-    if (receive(SteadyClock::time_point::min()))
+    if (receive(SteadyClock::now()))
         isCancelled_ = true;
 }
 

@@ -129,7 +129,7 @@ TEST(Soak, keepsItsMemoryAndItsDescriptors) {
                 rounds, before.residentKilobytes, after.residentKilobytes, before.descriptors,
                 after.descriptors, before.threads, after.threads);
     EXPECT_TRUE(calm);
-#ifndef QUILLON_SANITIZED // which keep what is freed for a while
+#ifndef QUILLON_SANITIZED
     EXPECT_LT(after.residentKilobytes - before.residentKilobytes, 5 * 1024);
 #endif
     EXPECT_EQ(agent.stop(), 0) << agent.said();

@@ -105,8 +105,7 @@ Expected<std::string> LinuxTrash::put(const std::string& path) {
     return trashed;
 }
 
-Expected<Placement> LinuxTrash::restore(const std::string& trashedPath,
-                                        const std::string& wanted) {
+Expected<Placement> LinuxTrash::restore(const std::string& trashedPath, const std::string& wanted) {
     if (const Expected<FileStatus> status = fileSystem_.status(trashedPath); !status) {
         return std::unexpected(status.error());
     }

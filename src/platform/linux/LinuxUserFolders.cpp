@@ -45,8 +45,8 @@ UserFolders userFolders(const Environment& environment) {
     const std::string data = absoluteFolder(environment, "XDG_DATA_HOME")
                                  .value_or(joinPath(joinPath(folders.home, ".local"), "share"));
     folders.data = joinPath(data, "Quillon");
-    const std::string config = absoluteFolder(environment, "XDG_CONFIG_HOME")
-                                   .value_or(joinPath(folders.home, ".config"));
+    const std::string config =
+        absoluteFolder(environment, "XDG_CONFIG_HOME").value_or(joinPath(folders.home, ".config"));
     folders.config = joinPath(config, "Quillon");
     folders.runtime = absoluteFolder(environment, "XDG_RUNTIME_DIR").value_or(folders.data);
     return folders;
