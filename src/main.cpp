@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
                           .colored = terminal.output && !noColor,
                           .showsProgress = terminal.error,
                           .mayContinue = untilAskedToStop()};
-    return static_cast<int>(
-        runCommandLine({argv + 1, argv + argc}, console, [] { return currentUserFolders(); }));
+    const ExitCode code =
+        runCommandLine({argv + 1, argv + argc}, console, [] { return currentUserFolders(); });
+    endProcess(static_cast<int>(code));
 }

@@ -17,6 +17,9 @@ namespace {
 constexpr std::array<std::string_view, 5> settlingExtensions{"crdownload", "download", "part",
                                                              "partial", "opdownload"};
 
+// Nobody is writing to a download that has not grown for so long.
+constexpr std::chrono::hours stalledAfter{1};
+
 bool hasSettlingExtension(std::string_view path) {
     const std::string_view extension = splitName(lastComponent(path)).extension;
     return std::ranges::any_of(settlingExtensions, [&](std::string_view settling) {
@@ -117,7 +120,11 @@ Expected<ReadyFiles> RuleEngine::readyFiles(const WatchedFolder& folder) const {
     ReadyFiles ready{.folder = folderPath(folder),
                      .files = std::move(listing->files),
                      .skippedNames = listing->skippedNames};
-    ready.deferred = std::erase_if(ready.files, isSettling);
+    ready.deferred = std::erase_if(ready.files, [&](const ListedFile& file) {
+        const bool settles = isSettling(file);
+        ready.stalled += settles && now - file.status.modified > stalledAfter;
+        return settles;
+    });
     return ready;
 }
 

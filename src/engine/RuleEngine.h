@@ -21,7 +21,8 @@ struct ReadyFiles {
     std::string folder;            ///< the listed folder, absolute
     std::vector<ListedFile> files; ///< ready, in listing order
     std::size_t deferred = 0;      ///< still being written
-    std::size_t skippedNames = 0;  ///< names that are not valid UTF-8
+    std::size_t stalled = 0; ///< of these, unfinished downloads that nobody has touched for an hour
+    std::size_t skippedNames = 0; ///< names that are not valid UTF-8
 };
 
 /// Called now and then with the number of files handled and the number in all.

@@ -4,6 +4,8 @@
 #include "platform/linux/StandardStreams.h"
 #include "platform/linux/StopSignals.h"
 
+#include <cstdlib>
+
 namespace quillon {
 
 TerminalUse openTerminal() {
@@ -19,6 +21,10 @@ std::function<bool()> untilAskedToStop() {
 void becomeLongLived() {
     noteEveryStopSignal();
     ignoreBrokenPipes();
+}
+
+void endProcess(int code) {
+    std::_Exit(code);
 }
 
 UserFolders currentUserFolders() {

@@ -24,6 +24,10 @@ struct TerminalUse {
 /// says.
 void becomeLongLived();
 
+/// At once, for a thread may be left behind that still waits for a message bus and must not see
+/// what it uses taken down. The streams have been flushed by then.
+[[noreturn]] void endProcess(int code);
+
 [[nodiscard]] UserFolders currentUserFolders();
 
 [[nodiscard]] std::optional<std::string> environmentVariable(const char* name);

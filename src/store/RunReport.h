@@ -26,6 +26,7 @@ struct RunReport {
     RunResult run = {};
     std::size_t tested = 0;
     std::size_t deferred = 0;           ///< files that are still settling
+    std::size_t stalled = 0;            ///< of these, downloads that somebody gave up
     std::size_t skippedNames = 0;       ///< names that are not valid UTF-8
     std::optional<Error> unlisted = {}; ///< why the folder could not be listed
     std::optional<Error> unsaved = {};  ///< why the result could not be saved

@@ -35,6 +35,7 @@ struct TidyRuns::Run {
         }
         report.tested = ready->files.size();
         report.deferred = ready->deferred;
+        report.stalled = ready->stalled;
         report.skippedNames = ready->skippedNames;
         report.run = engine.execute(*ready, folder.rules, folder, skip, std::nullopt, *journal);
     }
@@ -170,7 +171,8 @@ void TidyRuns::notify(const Run& run) const {
 
 void TidyRuns::retryLater(const Run& run) {
     const bool pausedMeanwhile = core_.state().isPaused && !run.beganPaused;
-    if (run.report.deferred > 0 && !pausedMeanwhile && !core_.isAtRest())
+    // A stalled download that goes on is a change, and a change is a reason to look.
+    if (run.report.deferred > run.report.stalled && !pausedMeanwhile && !core_.isAtRest())
         retries_.schedule(run.folder.id);
     else
         retries_.cancel(run.folder.id);

@@ -49,8 +49,13 @@ TEST(TidyRuns, leaveAFileAloneUntilItHasBeenStill) {
 
     live.disk.machine.write("in/b.pdf.part", "b");
     live.run();
+    EXPECT_TRUE(live.store->isSettling(live.folderID));
     live.store->setPaused(true);
     EXPECT_FALSE(live.store->isSettling(live.folderID));
+    live.store->setPaused(false);
+    live.touch("in/b.pdf.part", live.clock.now() - 61min);
+    live.run();
+    EXPECT_FALSE(live.store->isSettling(live.folderID)) << "somebody gave it up";
 }
 
 TEST(TidyRuns, ofOneFolderTakeTurnsAndThoseThatWaitAreOne) {
