@@ -16,7 +16,8 @@ enum class ErrorKind {
     changed,          ///< the file is no longer the one that was looked at
     unsupported,      ///< the file system or the machine can't do it
     invalid,          ///< input that can't be understood
-    timedOut,         ///< a child process took too long
+    timedOut,         ///< a child process or a service took too long
+    locked,           ///< a keyring that only its owner can unlock
     io,               ///< anything else the system reports
 };
 
