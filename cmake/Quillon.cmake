@@ -20,7 +20,8 @@ function(quillon_library folder)
   string(REPLACE "/" "_" name ${folder})
   file(GLOB sources CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*.h
-    ${PROJECT_SOURCE_DIR}/src/${folder}/conditions/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/actions/*.cpp)
+    ${PROJECT_SOURCE_DIR}/src/${folder}/conditions/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/actions/*.cpp
+    ${PROJECT_SOURCE_DIR}/src/${folder}/backends/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/backends/*.h)
   add_library(quillon_${name} STATIC ${sources})
   set_target_properties(quillon_${name} PROPERTIES LINKER_LANGUAGE CXX AUTOMOC ${arg_QOBJECTS})
   target_link_libraries(quillon_${name} PUBLIC quillon_options Qt6::Core ${arg_LINK})
