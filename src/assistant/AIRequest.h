@@ -2,7 +2,7 @@
 
 #include "assistant/AIMessage.h"
 
-#include <QJsonObject>
+#include <QByteArray>
 #include <QList>
 #include <QString>
 
@@ -14,7 +14,10 @@ namespace quillon {
 struct AIRequest {
     QString system;
     QList<AIMessage> messages;
-    std::optional<QJsonObject> schema; ///< of a structured answer; without one the answer is text
+    /// The JSON Schema of a structured answer, as text and to be sent as it stands: models fill in
+    /// properties in the order in which they are listed, and what comes first shapes what follows.
+    /// Without one the answer is text.
+    std::optional<QByteArray> schema;
     bool cheap = false; ///< many and simple, like judging files: the cheaper model will do
 };
 
