@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// The text on one line: a control character or line break is a space, and what directs the
+/// writing or can't be seen (overrides, isolates, zero-width characters) is left out.
+[[nodiscard]] QString plainLine(const QString& text);
+
+/// The first `most` units of the text, or one less where that would cut a character in two.
+[[nodiscard]] QString cutTo(const QString& text, qsizetype most);
+
+} // namespace quillon
