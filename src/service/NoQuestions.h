@@ -8,7 +8,7 @@ namespace quillon {
 class NoQuestions final : public QuestionResolver {
 public:
     [[nodiscard]] bool hasPending() const override { return false; }
-    void resolvePending(std::function<void(bool settled)> done) override { done(false); }
+    void resolvePending(std::function<void(QuestionsOutcome)> done) override { done({}); }
 };
 
 } // namespace quillon

@@ -75,6 +75,7 @@ void AppStore::startLiving() {
         updateAttention();
     });
     refreshAccess();
+    askQuestions();
 }
 
 void AppStore::syncWatching() {
@@ -389,6 +390,14 @@ void AppStore::afterRuns(std::uint64_t number, std::function<void()> done) {
 
 bool AppStore::isSettling(const QUuid& folderID) const {
     return state_->runs.retries().isPending(folderID);
+}
+
+bool AppStore::isUnsettled(const QUuid& folderID) const {
+    return state_->runs.isUnsettled(folderID);
+}
+
+void AppStore::askQuestions() {
+    state_->runs.askQuestions();
 }
 
 void AppStore::runCleanup(Cleanup cleanup, std::function<void(CleanupReport)> done) {

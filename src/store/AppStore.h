@@ -136,6 +136,12 @@ public:
     void afterRuns(std::uint64_t number, std::function<void()> done);
     /// Whether the folder will be looked at again because files in it were still settling.
     [[nodiscard]] bool isSettling(const QUuid& folderID) const;
+    /// Whether the folder is being tidied or will be looked at again by itself: files in it are
+    /// settling, or the assistant is being asked.
+    [[nodiscard]] bool isUnsettled(const QUuid& folderID) const;
+    /// Hands what the rules ask on to the assistant, now and after every run. An instance does so
+    /// from the start; a command would end before the answers come.
+    void askQuestions();
 
     /// What a clean-up, or a one-shot run over a folder that need not be watched, is to do.
     struct Cleanup {
@@ -187,6 +193,8 @@ Q_SIGNALS:
     void watchWarningsChanged();
     void needsAttentionChanged();
     void runFinished(const quillon::RunReport& report);
+    /// After the runs that it leads to have been asked for.
+    void questionsResolved(const quillon::QuestionsOutcome& outcome);
 
 private:
     struct State;

@@ -97,6 +97,7 @@ void TidyRuns::start(const QUuid& folderID, const std::function<void()>& ended) 
                        .folderID = folderID,
                        .folderName = folder->name(),
                        .cause = request.cause}});
+    running_.insert(folderID);
     core_.inBackground([run] { run->perform(); },
                        [this, run, ended] {
                            takeIn(*run);
@@ -107,6 +108,7 @@ void TidyRuns::start(const QUuid& folderID, const std::function<void()>& ended) 
 
 void TidyRuns::takeIn(Run& run) {
     RunReport& report = run.report;
+    running_.erase(report.folderID);
     std::vector<LogEntry>& entries = report.run.entries;
     const bool isKnown = core_.folder(report.folderID) != nullptr;
     bool hasChanged = false;
@@ -126,8 +128,8 @@ void TidyRuns::takeIn(Run& run) {
     if (hasChanged || !entries.empty())
         if (const auto saved = core_.save(); !saved)
             report.unsaved = saved.error();
-    Q_EMIT core_.store.runFinished(report);
     resolveQuestions();
+    Q_EMIT core_.store.runFinished(report);
 }
 
 bool TidyRuns::mergeKeys(const Run& run) {
@@ -194,29 +196,41 @@ void TidyRuns::afterRuns(std::uint64_t number, std::function<void()> done) {
     afterwards_.emplace(number, std::move(done));
 }
 
+bool TidyRuns::isUnsettled(const QUuid& folderID) const {
+    return isResolving_ || retries_.isPending(folderID) || waiting_.contains(folderID) ||
+           running_.contains(folderID);
+}
+
+void TidyRuns::askQuestions() {
+    asksQuestions_ = true;
+    resolveQuestions();
+}
+
 void TidyRuns::resolveQuestions() {
     QuestionResolver& resolver = core_.around.resolver;
-    if (isResolving_ || core_.isAtRest() || !resolver.hasPending())
+    if (!asksQuestions_ || isResolving_ || core_.isAtRest() || !resolver.hasPending())
         return;
     isResolving_ = true;
-    const auto settled = std::make_shared<bool>(false);
-    const std::function<void()> resolved = core_.whileAlive([this, settled] {
-        isResolving_ = false;
-        if (!*settled)
-            return;
-        std::vector<QUuid> waiting;
-        for (const WatchedFolder& folder : core_.state().folders)
-            if (std::ranges::any_of(folder.rules, [](const Rule& rule) {
-                    return rule.isEnabled && rule.needsDobbin();
-                }))
-                waiting.push_back(folder.id);
-        for (const QUuid& folderID : waiting)
-            request(folderID, RunCause::automatic);
-    });
-    resolver.resolvePending([settled, resolved](bool isSettled) {
-        *settled = isSettled;
+    const auto told = std::make_shared<QuestionsOutcome>();
+    const std::function<void()> resolved = core_.whileAlive([this, told] { takeAnswers(*told); });
+    resolver.resolvePending([told, resolved](QuestionsOutcome outcome) {
+        *told = std::move(outcome);
         resolved();
     });
+}
+
+void TidyRuns::takeAnswers(const QuestionsOutcome& outcome) {
+    isResolving_ = false;
+    std::vector<QUuid> waiting;
+    for (const WatchedFolder& folder : core_.state().folders)
+        if (std::ranges::any_of(folder.rules, [](const Rule& rule) {
+                return rule.isEnabled && rule.needsDobbin();
+            }))
+            waiting.push_back(folder.id);
+    if (outcome.settled)
+        for (const QUuid& folderID : waiting)
+            request(folderID, RunCause::automatic);
+    Q_EMIT core_.store.questionsResolved(outcome);
 }
 
 } // namespace quillon

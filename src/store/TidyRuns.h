@@ -24,9 +24,12 @@ public:
 
     [[nodiscard]] SettleRetries& retries() { return retries_; }
 
-    /// Hands the questions that wait for the assistant on, and afterwards tidies the folders whose
-    /// rules may have been waiting for the answers. One hand-off at a time.
-    void resolveQuestions();
+    /// Now and after every run: hands the questions that wait for the assistant on, and afterwards
+    /// tidies the folders whose rules may have been waiting for the answers. One hand-off at a
+    /// time.
+    void askQuestions();
+    /// As AppStore::isUnsettled.
+    [[nodiscard]] bool isUnsettled(const QUuid& folderID) const;
 
 private:
     struct Request {
@@ -41,13 +44,17 @@ private:
     void notify(const Run& run) const;
     void retryLater(const Run& run);
     void finished(std::uint64_t number);
+    void resolveQuestions();
+    void takeAnswers(const QuestionsOutcome& outcome);
 
     StoreCore& core_;
     SettleRetries retries_;
     std::uint64_t lastNumber_ = 0;
     std::map<QUuid, Request> waiting_; ///< one a folder that has not begun
+    std::set<QUuid> running_;
     std::set<std::uint64_t> unfinished_;
     std::multimap<std::uint64_t, std::function<void()>> afterwards_;
+    bool asksQuestions_ = false;
     bool isResolving_ = false;
 };
 

@@ -176,9 +176,19 @@ TEST(TidyRuns, countAFileThatWaitsForTheAssistantAsNew) {
 
     live.judge.waiting = live.resolver.pending = false;
     live.judge.verdicts[u"a receipt"_s] = Verdict::yes;
-    live.resolver.asked.front()(true);
+    EXPECT_TRUE(live.store->isUnsettled(live.folderID));
+    live.resolver.asked.front()({.settled = true});
     live.background.finish();
     EXPECT_TRUE(live.has("receipts/scan.txt"));
+    EXPECT_FALSE(live.store->isUnsettled(live.folderID));
+
+    live.start(AppStore::Life::command);
+    live.resolver.pending = true;
+    live.store->runRules(live.folderID);
+    live.background.finish();
+    EXPECT_EQ(live.resolver.asked.size(), 1U) << "a command would not hear the answer";
+    live.store->askQuestions();
+    EXPECT_EQ(live.resolver.asked.size(), 2U);
 }
 
 TEST(TidyRuns, undoOnlyTheBatchThatIsMeant) {

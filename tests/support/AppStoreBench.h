@@ -36,10 +36,10 @@ struct RecordingNotifier final : Notifier {
 /// An assistant that answers when the test says so.
 struct FakeResolver final : QuestionResolver {
     bool pending = false;
-    std::vector<std::function<void(bool settled)>> asked;
+    std::vector<std::function<void(QuestionsOutcome)>> asked;
 
     [[nodiscard]] bool hasPending() const override { return pending; }
-    void resolvePending(std::function<void(bool settled)> done) override {
+    void resolvePending(std::function<void(QuestionsOutcome)> done) override {
         asked.push_back(std::move(done));
     }
 };
