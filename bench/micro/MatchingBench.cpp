@@ -23,6 +23,7 @@ class NoJudge : public FileJudge {
 public:
     Verdict verdict(const std::string&, const QString&) override { return Verdict::unknown; }
     std::optional<QString> smartName(const std::string&) override { return std::nullopt; }
+    void fileMoved(const std::string&, const FileStatus&, const std::string&) override {}
     bool isWaiting(const std::string&) override { return false; }
 };
 

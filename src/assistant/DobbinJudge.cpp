@@ -30,6 +30,23 @@ std::optional<QString> DobbinJudge::smartName(const std::string& path) {
     return std::nullopt;
 }
 
+void DobbinJudge::fileMoved(const std::string& from, const FileStatus& status,
+                            const std::string& to) {
+    const FileKey before{.path = from, .size = status.size, .modified = status.modified};
+    const FileKey after{.path = to, .size = status.size, .modified = status.modified};
+
+    const std::scoped_lock guard(lock_);
+    if (const auto name = names_.answer(before))
+        names_.record(after, *name);
+    const auto questions = answered_.find(before);
+    if (questions == answered_.end())
+        return;
+    for (const QString& question : questions->second)
+        if (const auto matches = verdicts_.answer({.question = question, .file = before}))
+            verdicts_.record({.question = question, .file = after}, *matches);
+    answered_.insert_or_assign(after, questions->second);
+}
+
 bool DobbinJudge::isWaiting(const std::string& path) {
     {
         const std::scoped_lock guard(lock_);
@@ -53,6 +70,8 @@ DobbinJudge::Pending DobbinJudge::takePending(std::size_t maxVerdicts, std::size
 
 void DobbinJudge::recordVerdict(const VerdictRequest& request, bool matches) {
     const std::scoped_lock guard(lock_);
+    if (!verdicts_.answer(request))
+        answered_[request.file].append(request.question);
     if (verdicts_.record(request, matches))
         closeVerdict(request.file);
 }
@@ -78,6 +97,7 @@ void DobbinJudge::recordNameFailure(const FileKey& file) {
 void DobbinJudge::clearAnswers() {
     const std::scoped_lock guard(lock_);
     verdicts_.clearAnswers();
+    answered_.clear();
     names_.clearAnswers();
 }
 

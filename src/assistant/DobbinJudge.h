@@ -8,6 +8,7 @@
 #include "platform/FileSystem.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <map>
 #include <mutex>
@@ -36,6 +37,8 @@ public:
     /// ten minutes ago; otherwise an unknown question is queued.
     [[nodiscard]] Verdict verdict(const std::string& path, const QString& question) override;
     [[nodiscard]] std::optional<QString> smartName(const std::string& path) override;
+    void fileMoved(const std::string& from, const FileStatus& status,
+                   const std::string& to) override;
     [[nodiscard]] bool isWaiting(const std::string& path) override;
 
     [[nodiscard]] bool hasPending() const;
@@ -59,6 +62,7 @@ private:
     mutable std::mutex lock_; ///< guards all below; never held across a look at the disk
     AnswerCache<VerdictRequest, bool> verdicts_;
     AnswerCache<FileKey, QString> names_;
+    std::map<FileKey, QStringList> answered_;            ///< the questions with a verdict, by file
     std::map<FileKey, std::size_t> outstandingVerdicts_; ///< how many questions each file waits for
 };
 

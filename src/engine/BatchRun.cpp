@@ -64,6 +64,8 @@ BatchRun::BatchRun(const Setup& setup, const ReadyFiles& items, const std::vecto
     for (const Rule& rule : rules)
         if (rule.isEnabled)
             rules_.emplace_back(rule);
+    asksJudge_ = std::ranges::any_of(
+        rules_, [](const CompiledRule& rule) { return rule.rule().needsDobbin(); });
 }
 
 RunResult BatchRun::run() {
@@ -208,8 +210,11 @@ void BatchRun::act(Taken& taken, LogEntry& entry) {
         }
         if (!remains)
             break;
-        if (result.place == ActionResult::Place::moved)
+        if (result.place == ActionResult::Place::moved) {
+            if (asksJudge_)
+                setup_.judge.fileMoved(context.path, *status, result.path);
             context.path = result.path;
+        }
         if (&action != &rule.actions.back())
             status = fileSystem.status(context.path);
         if (!status) {

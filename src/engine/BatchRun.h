@@ -64,6 +64,7 @@ private:
     const ReadyFiles& items_;
     const QSet<QString>& skip_;
     std::vector<CompiledRule> rules_;
+    bool asksJudge_ = false; ///< some rule needs the assistant
     KindClassifier kinds_;
     QString folderName_;
     DateFormats dates_;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/FileStatus.h"
+
 #include <QString>
 
 #include <optional>
@@ -19,6 +21,11 @@ public:
 
     /// The file's new base name, without an extension.
     [[nodiscard]] virtual std::optional<QString> smartName(const std::string& path) = 0;
+
+    /// A rule has moved the file, which was of this status, to another path: what is known of it
+    /// there stays known.
+    virtual void fileMoved(const std::string& from, const FileStatus& status,
+                           const std::string& to) = 0;
 
     /// Whether a verdict or a name for the file is queued or being worked out.
     [[nodiscard]] virtual bool isWaiting(const std::string& path) = 0;

@@ -20,6 +20,7 @@ public:
     std::optional<QString> smartName(const std::string& path) override {
         return std::filesystem::exists(path) ? std::optional(u"Invoice"_s) : std::nullopt;
     }
+    void fileMoved(const std::string&, const FileStatus&, const std::string&) override {}
     bool isWaiting(const std::string& path) override {
         return waitingNames.contains(std::filesystem::path(path).filename());
     }

@@ -26,6 +26,7 @@ public:
         ++namesAsked;
         return name;
     }
+    void fileMoved(const std::string&, const FileStatus&, const std::string&) override {}
     bool isWaiting(const std::string&) override { return waiting; }
 };
 
