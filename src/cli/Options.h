@@ -121,7 +121,7 @@ struct RecipeListOptions {
 
 struct RunOptions {
     std::vector<std::string> folders; ///< none: every watched folder
-    bool waits = false;               ///< until nothing is settling any more
+    bool waits = false;               ///< until nothing is settling or asked any more
     bool json = false;
 };
 

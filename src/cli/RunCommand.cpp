@@ -2,8 +2,10 @@
 #include "cli/OpenStore.h"
 #include "cli/RunOutput.h"
 #include "cli/Verbs.h"
+#include "store/Sentences.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace quillon {
 
@@ -39,9 +41,15 @@ std::vector<RunReport> runFolders(const StoreAccess& store, const std::vector<QU
         console.mayContinue);
     if (!waits)
         return reports;
-    for (const QUuid& id : folderIDs)
-        for (RunReport& later : store.untilSettled(id, console.mayContinue))
-            reports.push_back(std::move(later));
+    QStringList problems;
+    for (const QUuid& id : folderIDs) {
+        StoreAccess::Settling settling = store.untilSettled(id, console.mayContinue);
+        std::ranges::move(settling.reports, std::back_inserter(reports));
+        problems += settling.problems;
+    }
+    problems.removeDuplicates();
+    for (const QString& problem : problems)
+        console.say(dobbinProblem(problem));
     return reports;
 }
 
@@ -62,6 +70,10 @@ ExitCode runCommand(const RunOptions& options, const Console& console, Services&
     const std::vector<RunReport> reports = runFolders(*store, *chosen, options.waits, console);
     const ExitCode code =
         options.json ? tellRunsAsJson(reports, console) : tellRuns(reports, console);
+    const auto waits = [](const RunReport& report) { return !report.run.waiting.isEmpty(); };
+    if (!options.waits && !services.isInstance() && std::ranges::any_of(reports, waits))
+        console.say(u"Dobbin has not been asked; “quillon run --wait” waits for his answers, and "
+                    "“quillon agent” asks him by itself"_s);
     const bool wasStopped = console.mayContinue && !console.mayContinue();
     const auto isTold = [](const RunReport& report) { return report.run.interrupted; };
     if (!wasStopped || std::ranges::any_of(reports, isTold))

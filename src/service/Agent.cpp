@@ -62,6 +62,8 @@ private:
         log_.addSaveError(store_->lastSaveError());
         QObject::connect(store_, &AppStore::runFinished, &context_,
                          [this](const RunReport& report) { log_.addRun(report); });
+        QObject::connect(store_, &AppStore::questionsResolved, &context_,
+                         [this](const QuestionsOutcome& outcome) { log_.addAnswers(outcome); });
         QObject::connect(store_, &AppStore::watchWarningsChanged, &context_,
                          [this] { log_.addWatchWarnings(store_->watchWarnings()); });
         QObject::connect(store_, &AppStore::lastSaveErrorChanged, &context_,

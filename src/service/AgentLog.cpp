@@ -59,6 +59,13 @@ void AgentLog::addRun(const RunReport& report) {
         add(u"%1: %2 more failed"_s.arg(report.folderName, QString::number(told - mostFailures)));
 }
 
+void AgentLog::addAnswers(const QuestionsOutcome& outcome) {
+    for (const QString& problem : outcome.problems)
+        if (!dobbinProblems_.contains(problem))
+            add(dobbinProblem(problem));
+    dobbinProblems_ = outcome.problems;
+}
+
 void AgentLog::addWatchWarnings(const QStringList& warnings) {
     for (const QString& warning : warnings)
         if (!watchWarnings_.contains(warning))

@@ -20,6 +20,10 @@ public:
     /// A run that did something or failed; nothing for any other.
     void addRun(const RunReport& report);
 
+    /// Why questions of the rules went without an answer. The same reasons as the last time are not
+    /// told again.
+    void addAnswers(const QuestionsOutcome& outcome);
+
     /// What came or went since the last call.
     void addWatchWarnings(const QStringList& warnings);
 
@@ -30,6 +34,7 @@ private:
     std::ostream& out_;
     const Clock& clock_;
     QStringList watchWarnings_;
+    QStringList dobbinProblems_;
     bool savingFails_ = false;
 };
 

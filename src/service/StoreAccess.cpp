@@ -50,8 +50,10 @@ private:
 /// What a waiting command and the store's thread share. It outlives a command that stops waiting.
 struct Waiting {
     Signal signal;
-    std::vector<RunReport> reports; ///< on the store's thread
+    std::vector<RunReport> reports; ///< on the store's thread, as all below
+    QStringList problems;
     QMetaObject::Connection listening;
+    QMetaObject::Connection answers;
 };
 
 } // namespace
@@ -87,29 +89,39 @@ std::vector<RunReport> StoreAccess::runsOf(const std::function<void(AppStore&)>&
     return reports;
 }
 
-std::vector<RunReport> StoreAccess::untilSettled(const QUuid& folderID,
-                                                 const std::function<bool()>& mayContinue) const {
+StoreAccess::Settling StoreAccess::untilSettled(const QUuid& folderID,
+                                                const std::function<bool()>& mayContinue) const {
     const auto waiting = std::make_shared<Waiting>();
+    const auto look = [waiting, folderID, store = store_] {
+        if (!store->isUnsettled(folderID))
+            waiting->signal.raise();
+    };
     onStoreThread([&] {
-        if (!store_->isSettling(folderID))
-            return waiting->signal.raise();
-        waiting->listening =
-            QObject::connect(store_, &AppStore::runFinished, store_,
-                             [waiting, folderID, store = store_](const RunReport& report) {
-                                 if (report.folderID != folderID)
-                                     return;
-                                 waiting->reports.push_back(report);
-                                 if (!store->isSettling(folderID))
-                                     waiting->signal.raise();
-                             });
+        store_->askQuestions();
+        waiting->listening = QObject::connect(store_, &AppStore::runFinished, store_,
+                                              [waiting, folderID, look](const RunReport& report) {
+                                                  if (report.folderID != folderID)
+                                                      return;
+                                                  waiting->reports.push_back(report);
+                                                  look();
+                                              });
+        waiting->answers = QObject::connect(store_, &AppStore::questionsResolved, store_,
+                                            [waiting, look](const QuestionsOutcome& outcome) {
+                                                waiting->problems += outcome.problems;
+                                                look();
+                                            });
+        look();
     });
     waiting->signal.wait(mayContinue);
-    std::vector<RunReport> reports;
+    Settling settling;
     onStoreThread([&] {
         QObject::disconnect(waiting->listening);
-        reports = std::move(waiting->reports);
+        QObject::disconnect(waiting->answers);
+        settling.reports = std::move(waiting->reports);
+        settling.problems = std::move(waiting->problems);
     });
-    return reports;
+    settling.problems.removeDuplicates();
+    return settling;
 }
 
 AppStore::CleanupReport StoreAccess::runCleanup(AppStore::Cleanup cleanup) const {

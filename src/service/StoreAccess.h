@@ -33,10 +33,14 @@ public:
     [[nodiscard]] std::vector<RunReport> runsOf(const std::function<void(AppStore&)>& change,
                                                 const std::function<bool()>& mayContinue) const;
 
-    /// Waits until nothing in the folder is settling any more, and returns what came of the runs in
-    /// between.
-    [[nodiscard]] std::vector<RunReport>
-    untilSettled(const QUuid& folderID, const std::function<bool()>& mayContinue) const;
+    struct Settling {
+        std::vector<RunReport> reports; ///< of the folder's runs in between
+        QStringList problems;           ///< why the assistant could not answer
+    };
+    /// Has the assistant asked, and waits until nothing in the folder is settling and no answer is
+    /// outstanding any more.
+    [[nodiscard]] Settling untilSettled(const QUuid& folderID,
+                                        const std::function<bool()>& mayContinue) const;
 
     [[nodiscard]] AppStore::CleanupReport runCleanup(AppStore::Cleanup cleanup) const;
     [[nodiscard]] AppStore::UndoReport undo(std::vector<QUuid> entryIDs, Progress progress,

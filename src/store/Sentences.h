@@ -24,4 +24,9 @@ namespace quillon {
     return failure(error.kind, what + QStringLiteral(": ") + error.message);
 }
 
+/// Why the assistant's answers are missing.
+[[nodiscard]] inline QString dobbinProblem(const QString& reason) {
+    return QStringLiteral("Dobbin could not answer: ") + reason;
+}
+
 } // namespace quillon
