@@ -26,6 +26,11 @@ constexpr std::array table = std::to_array<Setting>({
     {u"ai.useClaude", SettingType::truth, u"false", u"let Dobbin ask Claude, with your key"},
     {u"ai.claudeModel", SettingType::text, claudeModels[0], u"which Claude is asked", true,
      claudeModels},
+    {u"ai.claudeHost", SettingType::text, u"https://api.anthropic.com", u"where Claude is asked"},
+    {u"ai.localModel", SettingType::text, u"",
+     u"which local model is asked; the first one that is installed where this is empty"},
+    {u"ai.localHost", SettingType::text, u"http://127.0.0.1:11434",
+     u"where the local model is asked, on this computer"},
     {u"ai.usage.count", SettingType::number, u"0", u"requests to Claude in that month", false},
     {u"ai.usage.month", SettingType::text, u"", u"the month of the last request to Claude", false},
 });

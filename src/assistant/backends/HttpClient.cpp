@@ -1,0 +1,61 @@
+#include "assistant/backends/HttpClient.h"
+
+#include "assistant/backends/HttpExchange.h"
+#include "assistant/backends/ModelHost.h"
+
+#include <QNetworkAccessManager>
+#include <QNetworkProxyFactory>
+#include <QNetworkRequest>
+
+namespace quillon {
+
+namespace {
+
+/// The system's proxies, but none for what is to stay on this machine.
+class OutsideProxies final : public QNetworkProxyFactory {
+public:
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
+        return isLoopback(query.url()) ? QList{QNetworkProxy(QNetworkProxy::NoProxy)}
+                                       : systemProxyForQuery(query);
+    }
+};
+
+QNetworkRequest prepared(const HttpRequest& request) {
+    QNetworkRequest prepared(request.url);
+    prepared.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                          QNetworkRequest::ManualRedirectPolicy);
+    prepared.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    prepared.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    prepared.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    // So that what is counted is what will be kept.
+    prepared.setRawHeader("accept-encoding", "identity");
+    for (const auto& [name, value] : request.headers)
+        prepared.setRawHeader(name, value);
+    return prepared;
+}
+
+} // namespace
+
+HttpClient::HttpClient() = default;
+
+HttpClient::~HttpClient() = default;
+
+Later<Expected<HttpReply>> HttpClient::fetch(HttpRequest request) {
+    const auto start = [&](HttpExchange::Done done) {
+        const QNetworkRequest what = prepared(request);
+        QNetworkReply* const reply =
+            request.body ? manager().post(what, *request.body) : manager().get(what);
+        new HttpExchange(reply, request.patience, std::move(done), &exchanges_);
+    };
+    return {start, failure(ErrorKind::io, QStringLiteral("The request was given up."))};
+}
+
+QNetworkAccessManager& HttpClient::manager() {
+    if (!manager_) {
+        manager_ = std::make_unique<QNetworkAccessManager>();
+        manager_->setProxyFactory(new OutsideProxies);
+    }
+    return *manager_;
+}
+
+} // namespace quillon

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "assistant/backends/HttpClient.h"
+
+#include <QNetworkReply>
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+namespace quillon {
+
+/// One request under way, until it is done, fails, or takes too long. Deletes itself.
+class HttpExchange final : public QObject {
+    Q_OBJECT
+
+public:
+    using Done = std::function<void(Expected<HttpReply>)>;
+
+    /// Takes the reply. `done` is called from the event loop, with nothing of the reply on the
+    /// stack; or it is dropped when the exchange goes before that.
+    HttpExchange(QNetworkReply* reply, std::chrono::milliseconds patience, Done done,
+                 QObject* parent);
+
+private:
+    void checkAnnounced();
+    void readOn();
+    void finished();
+    void end(Expected<HttpReply> result);
+
+    QNetworkReply* reply_;
+    Done done_;
+    QByteArray body_;
+    QTimer patience_;
+};
+
+} // namespace quillon
