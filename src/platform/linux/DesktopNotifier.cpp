@@ -1,12 +1,11 @@
 #include "platform/linux/DesktopNotifier.h"
 
-#include "platform/FileNames.h"
+#include "platform/linux/Mailbox.h"
 #include "platform/linux/NotificationBus.h"
+#include "platform/linux/SessionBus.h"
 
 #include <QThread>
 
-#include <filesystem>
-#include <mutex>
 #include <unordered_map>
 
 namespace quillon {
@@ -16,49 +15,18 @@ namespace {
 // it is left behind.
 constexpr unsigned long patienceMs = 200;
 
-/// Empty when there is none. Left to itself, the library would start a bus of its own.
-QString sessionBus(const Environment& environment) {
-    if (const auto address = environment("DBUS_SESSION_BUS_ADDRESS"); address && !address->empty())
-        return QString::fromStdString(*address);
-    const auto runtime = environment("XDG_RUNTIME_DIR");
-    const std::string socket = runtime ? joinPath(*runtime, "bus") : std::string();
-    std::error_code ignored;
-    return std::filesystem::is_socket(socket, ignored)
-               ? QStringLiteral("unix:path=") + QString::fromStdString(socket)
-               : QString();
-}
-
-/// Carries what ends back to the thread of the event loop, for as long as anybody is there.
-struct Mailbox {
-    std::mutex mutex;
-    QObject* receiver = nullptr;
-
-    template <typename Call>
-    void post(Call call) {
-        const std::lock_guard lock(mutex);
-        if (receiver)
-            QMetaObject::invokeMethod(receiver, std::move(call), Qt::QueuedConnection);
-    }
-    void close() {
-        const std::lock_guard lock(mutex);
-        receiver = nullptr;
-    }
-};
-
 } // namespace
 
 struct DesktopNotifier::State {
     QString address;
     QObject receiver;
-    std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>();
+    std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>(&receiver);
     std::unordered_map<std::uint64_t, std::function<void()>> undos;
     std::uint64_t lastToken = 0;
     QThread* thread = nullptr;
     NotificationBus* bus = nullptr; ///< on the thread, and gone with it
 
-    explicit State(QString busAddress) : address(std::move(busAddress)) {
-        mailbox->receiver = &receiver;
-    }
+    explicit State(QString busAddress) : address(std::move(busAddress)) {}
     ~State() {
         mailbox->close();
         if (!thread)
@@ -88,7 +56,7 @@ struct DesktopNotifier::State {
 };
 
 DesktopNotifier::DesktopNotifier(const Environment& environment)
-    : state_(std::make_unique<State>(sessionBus(environment))) {}
+    : state_(std::make_unique<State>(sessionBusAddress(environment))) {}
 DesktopNotifier::~DesktopNotifier() = default;
 
 void DesktopNotifier::post(const Notification& notification) {
