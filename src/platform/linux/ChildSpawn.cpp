@@ -33,14 +33,16 @@ public:
     FileActions(const FileActions&) = delete;
     FileActions& operator=(const FileActions&) = delete;
 
-    /// Standard error comes first: where we run without standard streams the pipe may have the
-    /// number of one of them.
-    [[nodiscard]] int plan(int errorPipe, const std::string& workingFolder) {
-        error_.note(::posix_spawn_file_actions_adddup2(&actions_, errorPipe, STDERR_FILENO));
-        error_.note(
-            ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
-        error_.note(
-            ::posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0));
+    [[nodiscard]] int plan(std::array<int, 3> streams, const std::string& workingFolder) {
+        for (int stream = 0; stream < 3; ++stream) {
+            const int given = streams[static_cast<std::size_t>(stream)];
+            if (given < 0) {
+                error_.note(::posix_spawn_file_actions_addopen(
+                    &actions_, stream, "/dev/null", stream == 0 ? O_RDONLY : O_WRONLY, 0));
+            } else {
+                error_.note(::posix_spawn_file_actions_adddup2(&actions_, given, stream));
+            }
+        }
         error_.note(::posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1));
         if (!workingFolder.empty()) {
             error_.note(::posix_spawn_file_actions_addchdir_np(&actions_, workingFolder.c_str()));
@@ -82,22 +84,16 @@ private:
     FirstError error_;
 };
 
-std::vector<std::string> arguments(const ProcessRequest& request) {
-    std::vector<std::string> all{request.executable};
-    all.insert(all.end(), request.arguments.begin(), request.arguments.end());
-    return all;
-}
-
-std::vector<std::string> environment(const ProcessRequest& request) {
+std::vector<std::string>
+ourEnvironmentWith(const std::vector<std::pair<std::string, std::string>>& added) {
     std::vector<std::string> all;
-    for (const auto& [name, value] : request.environment) {
+    for (const auto& [name, value] : added) {
         all.push_back(name + '=' + value);
     }
     for (char** variable = environ; variable && *variable; ++variable) {
         const std::string_view text = *variable;
-        const bool replaced = std::ranges::any_of(request.environment, [&](const auto& added) {
-            return text.starts_with(added.first + '=');
-        });
+        const bool replaced = std::ranges::any_of(
+            added, [&](const auto& one) { return text.starts_with(one.first + '='); });
         if (!replaced) {
             all.emplace_back(text);
         }
@@ -120,42 +116,90 @@ bool holdsZeroByte(const std::vector<std::string>& strings) {
                                [](const std::string& text) { return text.contains('\0'); });
 }
 
+/// Descriptors for the child's three streams, none of which has the number of another stream: where
+/// we run without standard streams, a pipe may have got one.
+class Streams {
+public:
+    [[nodiscard]] int plan(const ChildPlan& plan) {
+        const std::array given{plan.input, plan.output, plan.errorOutput};
+        for (std::size_t i = 0; i < given.size(); ++i) {
+            numbers_[i] = given[i];
+            if (given[i] >= 0 && given[i] <= STDERR_FILENO) {
+                moved_[i] = Descriptor(::fcntl(given[i], F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+                if (!moved_[i].isOpen()) {
+                    return errno;
+                }
+                numbers_[i] = moved_[i].get();
+            }
+        }
+        return 0;
+    }
+
+    [[nodiscard]] const std::array<int, 3>& numbers() const { return numbers_; }
+
+private:
+    std::array<int, 3> numbers_ = {};
+    std::array<Descriptor, 3> moved_;
+};
+
 } // namespace
 
-Expected<SpawnedChild> spawnChild(const ProcessRequest& request) {
-    std::vector<std::string> argumentTexts = arguments(request);
-    std::vector<std::string> environmentTexts = environment(request);
-    if (holdsZeroByte(argumentTexts) || holdsZeroByte(environmentTexts) ||
-        request.workingFolder.contains('\0')) {
+Expected<pid_t> startChild(const ChildPlan& plan) {
+    std::vector<std::string> arguments{plan.executable};
+    arguments.insert(arguments.end(), plan.arguments.begin(), plan.arguments.end());
+    std::vector<std::string> environment = plan.environment;
+    if (holdsZeroByte(arguments) || holdsZeroByte(environment) ||
+        plan.workingFolder.contains('\0')) {
         return std::unexpected(systemError(EINVAL));
     }
-
-    std::array<int, 2> ends = {};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
-        return systemFailure(errno);
-    }
-    SpawnedChild child{0, Descriptor(ends[0])};
-    const Descriptor writingEnd(ends[1]);
-    // Only our end: a child that finds its standard error full has to wait, not to fail.
-    if (::fcntl(ends[0], F_SETFL, O_NONBLOCK) != 0) {
-        return systemFailure(errno);
-    }
-
+    Streams streams;
     FileActions actions;
     Attributes attributes;
-    int error = actions.plan(writingEnd.get(), request.workingFolder);
+    int error = streams.plan(plan);
+    if (error == 0) {
+        error = actions.plan(streams.numbers(), plan.workingFolder);
+    }
     if (error == 0) {
         error = attributes.plan();
     }
+    pid_t pid = 0;
     if (error == 0) {
-        error =
-            ::posix_spawn(&child.pid, request.executable.c_str(), actions.get(), attributes.get(),
-                          pointers(argumentTexts).data(), pointers(environmentTexts).data());
+        error = ::posix_spawn(&pid, plan.executable.c_str(), actions.get(), attributes.get(),
+                              pointers(arguments).data(), pointers(environment).data());
     }
     if (error != 0) {
         return std::unexpected(systemError(error));
     }
-    return child;
+    return pid;
+}
+
+Expected<SpawnedChild> spawnChild(const ProcessRequest& request) {
+    Expected<Pipe> pipe = openPipe();
+    if (!pipe) {
+        return std::unexpected(pipe.error());
+    }
+    const Expected<pid_t> pid = startChild({.executable = request.executable,
+                                            .arguments = request.arguments,
+                                            .environment = ourEnvironmentWith(request.environment),
+                                            .workingFolder = request.workingFolder,
+                                            .errorOutput = pipe->writingEnd.get()});
+    if (!pid) {
+        return std::unexpected(pid.error());
+    }
+    return SpawnedChild{*pid, std::move(pipe->readingEnd)};
+}
+
+Expected<Pipe> openPipe() {
+    std::array<int, 2> ends = {};
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
+        return systemFailure(errno);
+    }
+    Pipe pipe{.readingEnd = Descriptor(ends[0]), .writingEnd = Descriptor(ends[1])};
+    // Only our end: a child that finds the pipe full has to wait, not to fail.
+    if (::fcntl(ends[0], F_SETFL, O_NONBLOCK) != 0) {
+        return systemFailure(errno);
+    }
+    return pipe;
 }
 
 } // namespace quillon

@@ -12,7 +12,30 @@ struct SpawnedChild {
     Descriptor errorOutput; ///< the reading end of its standard error, never blocking
 };
 
-/// Starts the child and doesn't wait for it. The caller must.
+/// What a child is given. Descriptors are borrowed; where there is none it gets the null device.
+struct ChildPlan {
+    std::string executable; ///< absolute path
+    std::vector<std::string> arguments;
+    std::vector<std::string> environment; ///< all of it: "NAME=value"
+    std::string workingFolder;            ///< empty: our own
+    int input = -1;
+    int output = -1;
+    int errorOutput = -1;
+};
+
+/// Starts a child that leads a process group of its own and inherits nothing but its plan: no other
+/// descriptors, no signal settings. Doesn't wait for it; the caller must.
+[[nodiscard]] Expected<pid_t> startChild(const ChildPlan& plan);
+
+/// What a child prints comes out of `readingEnd`, which never blocks.
+struct Pipe {
+    Descriptor readingEnd;
+    Descriptor writingEnd;
+};
+
+[[nodiscard]] Expected<Pipe> openPipe();
+
+/// Starts the child in our own environment, and doesn't wait for it either.
 [[nodiscard]] Expected<SpawnedChild> spawnChild(const ProcessRequest& request);
 
 } // namespace quillon
