@@ -45,9 +45,9 @@ QCoro::Task<Expected<QString>> AIManager::send(AIRequest request) {
         if (life.expired())
             co_return gone();
     }
-    const bool isForClaude = useClaude() && !apiKey_.isEmpty();
-    co_return co_await (isForClaude ? askClaude(std::move(request))
-                                    : askOnDevice(std::move(request)));
+    if (useClaude() && !apiKey_.isEmpty())
+        co_return co_await askClaude(std::move(request));
+    co_return co_await askOnDevice(std::move(request));
 }
 
 QCoro::Task<Expected<QString>> AIManager::askClaude(AIRequest request) {

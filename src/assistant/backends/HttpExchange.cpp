@@ -6,7 +6,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qint64 readBuffer = 64 * 1024;
+constexpr qint64 readBuffer = 1024 * 1024; // what may come while this thread is busy
 
 /// Whether the server has answered, be it with a refusal: from 201 on errors stand for its status,
 /// but for one that says that what it sent isn't the protocol.
