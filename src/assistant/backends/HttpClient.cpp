@@ -1,5 +1,6 @@
 #include "assistant/backends/HttpClient.h"
 
+#include "assistant/backends/BodyOnce.h"
 #include "assistant/backends/HttpExchange.h"
 #include "assistant/backends/ModelHost.h"
 
@@ -34,6 +35,16 @@ QNetworkRequest prepared(const HttpRequest& request) {
     return prepared;
 }
 
+QNetworkReply* post(QNetworkAccessManager& manager, QNetworkRequest request,
+                    const QByteArray& body) {
+    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+    request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
+    auto once = std::make_unique<BodyOnce>(body);
+    QNetworkReply* const reply = manager.post(request, once.get());
+    once.release()->setParent(reply);
+    return reply;
+}
+
 } // namespace
 
 HttpClient::HttpClient() = default;
@@ -44,7 +55,7 @@ Later<Expected<HttpReply>> HttpClient::fetch(HttpRequest request) {
     const auto start = [&](HttpExchange::Done done) {
         const QNetworkRequest what = prepared(request);
         QNetworkReply* const reply =
-            request.body ? manager().post(what, *request.body) : manager().get(what);
+            request.body ? post(manager(), what, *request.body) : manager().get(what);
         new HttpExchange(reply, request.patience, std::move(done), &exchanges_);
     };
     return {start, failure(ErrorKind::io, QStringLiteral("The request was given up."))};

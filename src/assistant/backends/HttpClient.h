@@ -32,9 +32,9 @@ struct HttpReply {
 /// What an answer may have; a longer one is given up as soon as it is known to be too long.
 inline constexpr qint64 mostReplyBytes = 8 * 1024 * 1024;
 
-/// Requests to the hosts of models. Nothing is followed, remembered or tried again, no cookie is
-/// kept, and what is for this machine goes through no proxy. One event-loop thread; nothing is
-/// built before the first request.
+/// Requests to the hosts of models. Nothing is followed or remembered, no body is sent twice, no
+/// cookie is kept, and what is for this machine goes through no proxy. One event-loop thread;
+/// nothing is built before the first request.
 class HttpClient {
 public:
     HttpClient();
