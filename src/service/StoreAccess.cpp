@@ -1,51 +1,14 @@
 #include "service/StoreAccess.h"
 
+#include "service/Signal.h"
+
 #include <QMetaObject>
 #include <QThread>
 
-#include <chrono>
-#include <condition_variable>
 #include <memory>
-#include <mutex>
 
 namespace quillon {
 namespace {
-
-constexpr std::chrono::milliseconds betweenQuestions{50};
-
-/// Something that the store's thread hands to a thread that waits for it.
-class Signal {
-public:
-    void raise() {
-        const std::scoped_lock guard(lock_);
-        isRaised_ = true;
-        raised_.notify_all();
-    }
-
-    /// Whether it was raised before `mayContinue` turned false. Lowers it again.
-    bool wait(const std::function<bool()>& mayContinue = {}) {
-        std::unique_lock guard(lock_);
-        while (!isRaised_) {
-            if (!mayContinue) {
-                raised_.wait(guard);
-                continue;
-            }
-            raised_.wait_for(guard, betweenQuestions);
-            guard.unlock();
-            const bool goesOn = mayContinue();
-            guard.lock();
-            if (!goesOn && !isRaised_)
-                return false;
-        }
-        isRaised_ = false;
-        return true;
-    }
-
-private:
-    std::mutex lock_;
-    std::condition_variable raised_;
-    bool isRaised_ = false;
-};
 
 /// What a waiting command and the store's thread share. It outlives a command that stops waiting.
 struct Waiting {

@@ -79,6 +79,7 @@ public:
     [[nodiscard]] QCoro::Task<void> refreshStatus();
     /// How far this process has come with downloading a local model; nothing once that has ended.
     void noteDownload(std::optional<int> percent) { download_ = percent; }
+    [[nodiscard]] std::optional<int> download() const { return download_; }
 
 Q_SIGNALS:
     void settingsChanged();
