@@ -11,8 +11,10 @@ namespace quillon::test {
 namespace {
 
 /// Top to bottom: a folder may use itself and any folder after it. main.cpp stands above them all.
-constexpr std::array<std::string_view, 10> layers{
-    "main.cpp", "app", "cli", "ui", "service", "assistant", "store", "engine", "model", "platform"};
+/// The reader is a program of its own, on the platform alone; nobody includes it.
+constexpr std::array<std::string_view, 11> layers{"main.cpp", "app",       "cli",     "ui",
+                                                  "service",  "assistant", "store",   "engine",
+                                                  "model",    "reader",    "platform"};
 
 constexpr std::string_view linuxFolder = "platform/linux/";
 
@@ -46,6 +48,7 @@ public:
         : file_(file)
         , rank_(rankOf(file.path))
         , onLinux_(file.path.starts_with(linuxFolder))
+        , inReader_(file.path.starts_with("reader/"))
         , known_(known)
         , faults_(faults) {}
 
@@ -81,7 +84,10 @@ private:
             say("includes \"" + name + "\", which is not there");
         else if (rankOf(name) < rank_)
             say("includes upward: " + name);
-        else if (name.starts_with(linuxFolder) && !onLinux_ && !file_.path.starts_with("service/"))
+        else if (name.starts_with("reader/") && !inReader_)
+            say("only reader may include reader: " + name);
+        else if (name.starts_with(linuxFolder) && !onLinux_ && !inReader_ &&
+                 !file_.path.starts_with("service/"))
             say("only service may include platform/linux: " + name);
     }
 
@@ -99,6 +105,7 @@ private:
     const SourceFile& file_;
     std::ptrdiff_t rank_;
     bool onLinux_;
+    bool inReader_;
     const std::set<std::string>& known_;
     std::vector<std::string>& faults_;
     int number_ = 0;

@@ -40,6 +40,7 @@ Expected<void> setLimits() {
 }
 
 Expected<void> setSwitches() {
+    ::signal(SIGXFSZ, SIG_IGN); // what is printed into a file then fails, and ends nobody
     const bool areSet = ::prctl(PR_SET_PDEATHSIG, SIGKILL) == 0 &&
                         ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
                         ::prctl(PR_SET_DUMPABLE, 0) == 0;
