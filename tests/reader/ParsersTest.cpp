@@ -65,16 +65,16 @@ TEST(OcrLanguagesTest, PrefersTheUsersAndEnglish) {
     const QStringList many{u"afr"_s, u"deu"_s, u"eng"_s, u"equ"_s, u"fra"_s, u"osd"_s};
     const struct {
         QStringList installed;
-        const char16_t* locale;
+        QString locale;
         QStringList chosen;
     } cases[] = {
-        {many, u"de_AT.UTF-8", {u"deu"_s, u"eng"_s, u"afr"_s}},
-        {many, u"C", {u"eng"_s, u"afr"_s, u"deu"_s}},
-        {{u"osd"_s}, u"en_GB", {}},
-        {{u"deu"_s}, u"en_GB", {u"deu"_s}},
+        {many, u"de_AT.UTF-8"_s, {u"deu"_s, u"eng"_s, u"afr"_s}},
+        {many, u"C"_s, {u"eng"_s, u"afr"_s, u"deu"_s}},
+        {{u"osd"_s}, u"en_GB"_s, {}},
+        {{u"deu"_s}, u"en_GB"_s, {u"deu"_s}},
     };
     for (const auto& [installed, locale, chosen] : cases)
-        EXPECT_EQ(ocrLanguages(installed, QString(locale)), chosen);
+        EXPECT_EQ(ocrLanguages(installed, locale), chosen);
 }
 
 } // namespace

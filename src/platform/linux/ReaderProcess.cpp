@@ -192,7 +192,7 @@ std::string readerProgram() {
     std::string self(PATH_MAX, '\0');
     const ssize_t length = ::readlink("/proc/self/exe", self.data(), self.size());
     self.resize(static_cast<std::size_t>(std::max<ssize_t>(length, 0)));
-    const std::string folder = parentPath(self);
+    const std::string_view folder = parentPath(self);
     const std::string beside = joinPath(folder, "quillon-reader");
     return ::access(beside.c_str(), X_OK) == 0
                ? beside
