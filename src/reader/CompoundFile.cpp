@@ -35,7 +35,8 @@ QString nameIn(QByteArrayView entry) {
 QByteArray CompoundFile::Sectors::chain(std::uint32_t first, std::uint64_t length) const {
     QByteArray whole;
     std::uint32_t sector = first;
-    // A chain that comes back to itself ends with the sectors that there are.
+    // A chain that comes back to itself ends when it has as many bytes as there are.
+    length = std::min(length, static_cast<std::uint64_t>(bytes.size()));
     for (std::size_t count = 0; count < next.size() && sector < next.size(); ++count) {
         const auto have = static_cast<std::uint64_t>(whole.size());
         if (have >= length) {
