@@ -12,8 +12,6 @@ namespace quillon {
 
 /// One request under way, until it is done, fails, or takes too long. Deletes itself.
 class HttpExchange final : public QObject {
-    Q_OBJECT
-
 public:
     using Done = std::function<void(Expected<HttpReply>)>;
 
