@@ -197,7 +197,7 @@ private:
         if (word.start == day.end && isOneOf(word, endings))
             word = next(word, " .,-/"_L1);
         if (isOneOf(word, fillers))
-            word = next(word, " '’"_L1);
+            word = next(word, " '"_L1);
         const int inMonth = month(word);
         return inMonth == 0 ? Found() : withYear(word, day.number, inMonth);
     }

@@ -8,6 +8,8 @@ QString plainLine(const QString& text) {
     QString line;
     line.reserve(text.size());
     for (const char32_t c : text.toUcs4()) {
+        if (c == QChar::ReplacementCharacter)
+            continue;
         switch (QChar::category(c)) {
         case QChar::Other_Control:
         case QChar::Separator_Line:

@@ -87,8 +87,9 @@ TEST_F(FileTextTest, SaysWhatIsKnownLineByLine) {
     EXPECT_EQ(texts_.describe(path, true), known);
 
     files_.byPath["/in/a.pdf"].type = FileType::directory;
+    files_.byPath["/in/a.pdf"].modified = noon(5, 2);
     EXPECT_EQ(texts_.describe("/in/a.pdf", true),
-              u"name: a.pdf\nkind: Folders\ndate: 1970-01-01"_s);
+              u"name: a.pdf\nkind: Folders\ndate: 2026-05-02"_s);
 }
 
 TEST_F(FileTextTest, GivesEachKindToItsReader) {
