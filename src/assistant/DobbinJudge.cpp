@@ -1,6 +1,16 @@
 #include "assistant/DobbinJudge.h"
 
 namespace quillon {
+namespace {
+
+/// A folder's date says that something in it has come or gone, and nothing that is told to a model.
+FileKey keyFor(const std::string& path, const FileStatus& status) {
+    const bool isFolder = status.type == FileType::directory;
+    return {
+        .path = path, .size = status.size, .modified = isFolder ? Timestamp() : status.modified};
+}
+
+} // namespace
 
 Verdict DobbinJudge::verdict(const std::string& path, const QString& question) {
     const auto file = keyOf(path);
@@ -32,8 +42,8 @@ std::optional<QString> DobbinJudge::smartName(const std::string& path) {
 
 void DobbinJudge::fileMoved(const std::string& from, const FileStatus& status,
                             const std::string& to) {
-    const FileKey before{.path = from, .size = status.size, .modified = status.modified};
-    const FileKey after{.path = to, .size = status.size, .modified = status.modified};
+    const FileKey before = keyFor(from, status);
+    const FileKey after = keyFor(to, status);
 
     const std::scoped_lock guard(lock_);
     if (const auto name = names_.answer(before))
@@ -105,7 +115,7 @@ std::optional<FileKey> DobbinJudge::keyOf(const std::string& path) const {
     const auto status = fileSystem_.status(path);
     if (!status)
         return std::nullopt;
-    return FileKey{.path = path, .size = status->size, .modified = status->modified};
+    return keyFor(path, *status);
 }
 
 void DobbinJudge::closeVerdict(const FileKey& file) {

@@ -8,7 +8,8 @@
 
 namespace quillon {
 
-/// One version of one file: when the file changes, what was said about it no longer applies.
+/// One version of one file: when the file changes, what was said about it no longer applies. A
+/// folder has one version.
 struct FileKey {
     std::string path; ///< bytes
     std::uint64_t size = 0;

@@ -146,6 +146,29 @@ TEST_F(DobbinJudgeTest, AChangedFileIsAskedAboutAnew) {
     files_.byPath["/a"].modified += 1ns;
     queue();
     EXPECT_TRUE(judge_.isWaiting("/a"));
+
+    files_.byPath["/a"].type = FileType::directory;
+    queue();
+    judge_.recordVerdict(judge_.takePending(2, 0).verdicts.at(0), true);
+    files_.byPath["/a"].modified += 1s;
+    EXPECT_EQ(ask(), Verdict::yes) << "something came or went in a folder";
+}
+
+TEST_F(DobbinJudgeTest, WhatIsKnownFollowsAFileThatIsMoved) {
+    queue();
+    EXPECT_EQ(judge_.smartName("/a"), std::nullopt);
+    judge_.recordVerdict(takeOne(), true);
+    judge_.recordName({"/a", 10, clock_.now()}, u"Hay bill"_s);
+    const FileStatus status = files_.byPath["/a"];
+    judge_.fileMoved("/a", status, "/b");
+    judge_.fileMoved("/b", status, "/c");
+    files_.byPath["/c"] = status;
+    EXPECT_EQ(ask("/c"), Verdict::yes);
+    EXPECT_EQ(judge_.smartName("/c"), u"Hay bill"_s);
+    EXPECT_FALSE(judge_.hasPending());
+    EXPECT_EQ(judge_.verdict("/c", u"a letter"_s), Verdict::unknown);
+    judge_.clearAnswers();
+    EXPECT_EQ(ask("/c"), Verdict::unknown);
 }
 
 TEST_F(DobbinJudgeTest, AMissingFileQueuesNothing) {
