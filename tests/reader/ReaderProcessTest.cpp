@@ -157,7 +157,7 @@ TEST(ReaderProcessTest, SurvivesWhatGrowsWhenItIsRead) {
     } cases[] = {
         {checkedIn("bomb.docx"), TextKind::document, u""_s},
         {folder.write("deep.rtf", "{\\rtf1 a" + million + " b"), TextKind::document, u"a"_s},
-        {folder.write("deep.rtf", "{\\rtf1 a" + million + std::string(1'000'000, '}') + " b"),
+        {folder.write("balanced.rtf", "{\\rtf1 a" + million + std::string(1'000'000, '}') + " b"),
          TextKind::document, u"a b"_s},
     };
     for (const auto& [file, kind, text] : cases) {
@@ -210,8 +210,6 @@ TEST(ReaderProcessTest, BelievesOnlyAReaderThatEndsWellAndPrintsText) {
         {"printf 'caf\\303'", {}},
         {"yes", {}},
         {"[ -z \"$HOME$DBUS_SESSION_BUS_ADDRESS$QUILLON_KEY\" ] && printf none", u"none"_s},
-        {"[ $(ls /proc/$$/fd | wc -l) -le 4 ] && printf few",
-         u"few"_s}, // the shell holds its script
     };
     ::setenv("QUILLON_KEY", "secret", 1);
     const ScratchFolder folder;

@@ -97,7 +97,7 @@ public:
         if (!isInTime) {
             return failure(ErrorKind::timedOut, u"Reading the file took too long"_s);
         }
-        QStringDecoder decode(QStringConverter::Utf8);
+        QStringDecoder decode(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
         const QString text = decode(QByteArrayView(printed_));
         return endedWell && printed_.size() <= mostPrinted && !decode.hasError()
                    ? Expected<QString>(text)
