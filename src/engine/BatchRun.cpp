@@ -93,8 +93,9 @@ BatchRun::Group BatchRun::take(std::size_t start) {
     const std::span<const ListedFile> rest = std::span(items_.files).subspan(start);
     const std::span<const ListedFile> files = rest.first(std::min(fullGroup, rest.size()));
     const std::vector<const ListedFile*> candidates = unskipped(files);
-    const MatchSetup matching{setup_.platform, setup_.judge, rules_, items_.folder,
-                              setup_.platform.clock.now()};
+    const MatchSetup matching{
+        setup_.platform,          setup_.judge, rules_, items_.folder, setup_.platform.clock.now(),
+        setup_.settings.restraint};
     const std::vector<FirstMatch> matches = firstMatches(matching, candidates);
 
     Group group{.taken = {}, .intents = {}, .end = start + files.size()};

@@ -10,11 +10,14 @@
 
 namespace quillon {
 
+class RunRestraint;
+
 /// What a condition sees while it is tested.
 struct MatchContext {
     FileFacts& file;
     FileJudge& judge;
     Timestamp now;
+    const RunRestraint* restraint = nullptr; ///< none: nothing has been done before
 };
 
 enum class Truth { no, yes, unknown };

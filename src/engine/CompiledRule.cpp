@@ -1,5 +1,7 @@
 #include "engine/CompiledRule.h"
 
+#include "engine/RuleEngine.h"
+#include "engine/RunRestraint.h"
 #include "engine/conditions/ConditionTable.h"
 
 #include <algorithm>
@@ -37,7 +39,8 @@ CompiledRule::CompiledRule(Rule rule) : rule_(std::move(rule)), needsDobbin_(rul
 
 MatchOutcome CompiledRule::match(MatchContext& context) const {
     const auto isNamed = [&] {
-        return !renamesWithDobbin_ || smartName(context.judge, context.file).has_value();
+        return !renamesWithDobbin_ || hasActed(context) ||
+               smartName(context.judge, context.file).has_value();
     };
     if (conditionsHold(context) && isNamed())
         return MatchOutcome::matches;
@@ -55,6 +58,9 @@ bool CompiledRule::conditionsHold(MatchContext& context) const {
         if (test(context) == deciding)
             return !unlessDecided;
 
+    // It holds what it held when the rule acted, and asking anew would change nothing.
+    if (!asking_.empty() && hasActed(context))
+        return true;
     bool decided = false;
     bool unknown = false;
     // All of them, whatever the first ones say: asking is what queues a question.
@@ -64,6 +70,11 @@ bool CompiledRule::conditionsHold(MatchContext& context) const {
         unknown = unknown || result == Truth::unknown;
     }
     return !unknown && decided != unlessDecided;
+}
+
+bool CompiledRule::hasActed(const MatchContext& context) const {
+    return context.restraint &&
+           context.restraint->hasActed(rule_, fileKey(context.file.path(), context.file.status()));
 }
 
 QStringList CompiledRule::captures(FileFacts& file) const {

@@ -36,6 +36,7 @@ public:
 
 private:
     [[nodiscard]] bool conditionsHold(MatchContext& context) const;
+    [[nodiscard]] bool hasActed(const MatchContext& context) const;
 
     Rule rule_;
     std::vector<CompiledCondition> plain_;

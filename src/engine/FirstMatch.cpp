@@ -31,7 +31,7 @@ void matchRange(const MatchSetup& setup, const std::vector<CompiledRule>& rules,
         return;
     KindClassifier kinds(setup.platform.contentTypes);
     FileFacts facts(setup.platform, kinds, setup.folder, *files.front());
-    MatchContext context{facts, setup.judge, setup.now};
+    MatchContext context{facts, setup.judge, setup.now, setup.restraint};
     for (std::size_t i = 0; i < files.size(); ++i) {
         facts.reset(*files[i]);
         found[i] = firstMatch(rules, context);

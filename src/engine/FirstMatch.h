@@ -25,6 +25,7 @@ struct MatchSetup {
     const std::vector<CompiledRule>& rules;
     const std::string& folder;
     Timestamp now;
+    const RunRestraint* restraint = nullptr;
 };
 
 /// For each file the first rule that matches, in the order of the files. Uses every processor when

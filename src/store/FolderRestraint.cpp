@@ -10,6 +10,11 @@ FolderRestraint::FolderRestraint(const WatchedFolder& folder, FolderDeeds deeds,
         rules_.insert(rule.id, stableHash(rule));
 }
 
+bool FolderRestraint::hasActed(const Rule& rule, const QString& fileKey) const {
+    const auto known = rules_.constFind(rule.id);
+    return known != rules_.constEnd() && deeds_.contains(stableHash(fileKey), *known);
+}
+
 bool FolderRestraint::mayAct(const Rule& rule, const QString& fileKey) {
     const auto known = rules_.constFind(rule.id);
     if (known == rules_.constEnd())

@@ -18,6 +18,7 @@ class FolderRestraint final : public RunRestraint {
 public:
     FolderRestraint(const WatchedFolder& folder, FolderDeeds deeds, RingWatch rings);
 
+    [[nodiscard]] bool hasActed(const Rule& rule, const QString& fileKey) const override;
     [[nodiscard]] bool mayAct(const Rule& rule, const QString& fileKey) override;
 
     /// A file that was refused because rules hand it round.

@@ -16,11 +16,21 @@ class LookingJudge : public FileJudge {
 public:
     std::set<std::string> waitingNames;
 
-    Verdict verdict(const std::string&, const QString&) override { return Verdict::unknown; }
+    int asked = 0;
+    std::vector<std::string> moved;
+
+    Verdict verdict(const std::string&, const QString&) override {
+        ++asked;
+        return Verdict::unknown;
+    }
     std::optional<QString> smartName(const std::string& path) override {
+        ++asked;
         return std::filesystem::exists(path) ? std::optional(u"Invoice"_s) : std::nullopt;
     }
-    void fileMoved(const std::string&, const FileStatus&, const std::string&) override {}
+    void fileMoved(const std::string& from, const FileStatus&, const std::string& to) override {
+        moved.push_back(std::filesystem::path(from).filename().string() + " -> " +
+                        std::filesystem::path(to).filename().string());
+    }
     bool isWaiting(const std::string& path) override {
         return waitingNames.contains(std::filesystem::path(path).filename());
     }
@@ -168,8 +178,36 @@ TEST_F(BatchRunTest, endsBetweenTwoFilesWhenAsked) {
 class Refusal : public RunRestraint {
 public:
     QSet<QString> keys;
+    bool hasActed(const Rule&, const QString& fileKey) const override {
+        return keys.contains(fileKey);
+    }
     bool mayAct(const Rule&, const QString& fileKey) override { return !keys.contains(fileKey); }
 };
+
+TEST_F(BatchRunTest, asksNothingAboutWhatARuleHasActedOn) {
+    machine_.write("a.txt", "text");
+    Refusal refusal;
+    refusal.keys = run({}).seenKeys;
+    settings_.restraint = &refusal;
+    Rule asking = ruleFor(u"asking"_s, u"a"_s, {makeAction(ActionType::renameWithDobbin)});
+    asking.conditions.push_back(
+        {.attribute = ConditionAttribute::dobbinSays, .value = u"a bill"_s});
+    const Rule later = ruleFor(u"later"_s, u"a"_s, {makeAction(ActionType::trash)});
+    for (const MatchMode mode : {MatchMode::all, MatchMode::any}) {
+        asking.matchMode = mode;
+        EXPECT_TRUE(run({asking, later}).entries.empty());
+        EXPECT_EQ(judge_.asked, 0);
+    }
+    asking.conditions[0].value = u"b"_s;
+    asking.matchMode = MatchMode::all;
+    refusal.keys.clear();
+    EXPECT_EQ(run({asking, later}).entries.size(), 1U) << "not a file of that rule";
+
+    machine_.write("a.txt", "text");
+    asking.conditions = {{.attribute = ConditionAttribute::fullName, .value = u"a.txt"_s}};
+    EXPECT_EQ(run({asking}).entries.size(), 1U);
+    EXPECT_EQ(judge_.moved, std::vector<std::string>{"a.txt -> Invoice.txt"});
+}
 
 TEST_F(BatchRunTest, saysWhatARuleActedOnAndLeavesAloneWhatItMustNot) {
     const RuleAction nowhere = moveTo(u"relative"_s);
