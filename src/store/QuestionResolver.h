@@ -8,8 +8,8 @@ namespace quillon {
 
 /// What came of asking the assistant.
 struct QuestionsOutcome {
-    bool settled = false; ///< something was answered, so that a run may find more to do
-    QStringList problems; ///< sentences for people, none twice
+    bool settled = false;      ///< something was answered, so that a run may find more to do
+    QStringList problems = {}; ///< sentences for people, none twice
 };
 
 /// Whoever answers what the rules have asked the assistant. On the store's thread.
