@@ -118,6 +118,7 @@ protected:
     Clerk clerk_{server_};
     RunningAgent agent_{QStringLiteral(QUILLON_PROGRAM), home_.root()};
     const QString in_ = QString::fromStdString(home_.makeFolder("in"));
+    const QString receipts_ = QString::fromStdString(home_.path("Receipts"));
 
     void mustRun(const QStringList& arguments) {
         const auto answer = agent_.command(arguments);
@@ -130,7 +131,7 @@ protected:
         fs::rename(path, home_.path("in/" + name));
     }
     bool appears(const std::string& name) {
-        return comesTrue([&] { return fs::exists(home_.path("in/" + name)); }, 60s);
+        return comesTrue([&] { return home_.has(name); }, 60s);
     }
 };
 
@@ -149,12 +150,11 @@ TEST_F(DobbinAgent, filesWhatTheModelSaysAsksNothingTwiceAndLosesNothing) {
         once["verdict " + name] = 1;
         if (isLetter)
             once["name " + name] = 1;
-        places.push_back(isLetter ? "2026-03-12 Sender" + number + " letter.txt"
+        places.push_back(isLetter ? "in/2026-03-12 Sender" + number + " letter.txt"
                                   : "Receipts/" + name);
     }
     const QString rules = QString::fromStdString(home_.write(
-        "rules.json",
-        encodeRules({receiptsAway(in_ + u"/Receipts"_s), lettersNamed()}).toStdString()));
+        "rules.json", encodeRules({receiptsAway(receipts_), lettersNamed()}).toStdString()));
     ASSERT_TRUE(agent_.start()) << agent_.said();
     mustRun({u"folder"_s, u"add"_s, in_, u"--timing"_s, u"live"_s});
     mustRun({u"rule"_s, u"import"_s, rules, u"--folder"_s, in_});
@@ -203,7 +203,7 @@ TEST_F(DobbinAgent, saysWhyDobbinCouldNotAnswerAndWaitsForHimOnlyWhenAsked) {
     mustRun({u"settings"_s, u"set"_s, u"ai.localHost"_s, server_.host()});
     mustRun({u"folder"_s, u"add"_s, in_, u"--timing"_s, u"manual"_s});
     const QString rules = QString::fromStdString(
-        home_.write("rules.json", encodeRules({receiptsAway(in_ + u"/Receipts"_s)}).toStdString()));
+        home_.write("rules.json", encodeRules({receiptsAway(receipts_)}).toStdString()));
     mustRun({u"rule"_s, u"import"_s, rules, u"--folder"_s, in_});
     for (int i = 0; i < 30; ++i)
         drop("receipt " + std::to_string(i), "paid");
@@ -216,12 +216,12 @@ TEST_F(DobbinAgent, saysWhyDobbinCouldNotAnswerAndWaitsForHimOnlyWhenAsked) {
     server_.haveModels({});
     const auto refused = agent_.command({u"run"_s, u"--wait"_s, in_});
     EXPECT_THAT(refused.err, ::testing::HasSubstr("Dobbin could not answer: "));
-    EXPECT_EQ(home_.has("in/Receipts"), false);
+    EXPECT_FALSE(home_.has("Receipts"));
 
     server_.haveModels({u"clerk:latest"_s});
     const auto answered = agent_.command({u"run"_s, u"--wait"_s, in_});
     EXPECT_EQ(answered.code, 0) << answered.err;
-    EXPECT_TRUE(home_.has("in/Receipts/receipt 29")) << answered.out << answered.err;
+    EXPECT_TRUE(home_.has("Receipts/receipt 29")) << answered.out << answered.err;
     EXPECT_THAT(clerk_.verdictBatches(), ElementsAre(24, 6));
 }
 
