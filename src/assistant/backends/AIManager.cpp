@@ -140,8 +140,9 @@ Expected<void> AIManager::setClaudeModel(ClaudeModel model) {
 
 QCoro::Task<Expected<void>> AIManager::loadKey() {
     const std::weak_ptr<const void> life = life_;
-    Expected<QString> key = co_await fromKeychain<QString>(
-        [this](auto done) { keychain_.read(account, std::move(done)); });
+    auto reading =
+        fromKeychain<QString>([this](auto done) { keychain_.read(account, std::move(done)); });
+    const Expected<QString> key = co_await reading;
     if (life.expired())
         co_return gone();
     if (!key)
@@ -159,8 +160,9 @@ QCoro::Task<Expected<void>> AIManager::saveKey(QString typed) {
         co_return std::unexpected(asError(verified.error()));
     if (life.expired())
         co_return gone();
-    const Expected<void> saved = co_await fromKeychain<void>(
+    auto saving = fromKeychain<void>(
         [this, &key](auto done) { keychain_.save(key, account, std::move(done)); });
+    const Expected<void> saved = co_await saving;
     if (!saved)
         co_return failure(saved.error().kind,
                           u"Quillon couldn't save the key to your Keychain. "_s +
@@ -174,8 +176,9 @@ QCoro::Task<Expected<void>> AIManager::saveKey(QString typed) {
 
 QCoro::Task<Expected<void>> AIManager::removeKey() {
     const std::weak_ptr<const void> life = life_;
-    const Expected<void> removed = co_await fromKeychain<void>(
-        [this](auto done) { keychain_.remove(account, std::move(done)); });
+    auto removing =
+        fromKeychain<void>([this](auto done) { keychain_.remove(account, std::move(done)); });
+    const Expected<void> removed = co_await removing;
     if (!removed && removed.error().kind != ErrorKind::notFound)
         co_return std::unexpected(removed.error());
     if (!life.expired())
