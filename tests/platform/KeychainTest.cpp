@@ -53,11 +53,11 @@ class KeychainTest : public ::testing::Test {
 protected:
     /// The library behind it keeps to the first bus of a process, so there is but one.
     static void SetUpTestSuite() {
-        keyring = std::make_unique<PrivateKeyring>();
-        qputenv("DBUS_SESSION_BUS_ADDRESS", keyring->address().toUtf8());
+        keyring_ = std::make_unique<PrivateKeyring>();
+        qputenv("DBUS_SESSION_BUS_ADDRESS", keyring_->address().toUtf8());
     }
-    static void TearDownTestSuite() { keyring.reset(); }
-    void TearDown() override { keyring->stop(); }
+    static void TearDownTestSuite() { keyring_.reset(); }
+    void TearDown() override { keyring_->stop(); }
 
     Outcome read(Keychain& keychain) {
         Waiting<QString> waiting;
@@ -80,11 +80,11 @@ protected:
     QCoreApplication application_{argc_, nullptr};
     SecretServiceKeychain keychain_{
         u"quillon-test"_s, processEnvironment, {.forLook = 8s, .forDeed = 8s}};
-    static inline std::unique_ptr<PrivateKeyring> keyring;
+    static inline std::unique_ptr<PrivateKeyring> keyring_;
 };
 
 TEST_F(KeychainTest, KeepsOneValueAnAccount) {
-    ASSERT_TRUE(keyring->start("open sesame"));
+    ASSERT_TRUE(keyring_->start("open sesame"));
     EXPECT_EQ(read(keychain_), failed(ErrorKind::notFound));
     EXPECT_EQ(remove(keychain_), failed(ErrorKind::notFound));
     EXPECT_EQ(save(keychain_, u"sk-først"_s), Outcome({u"ok"_s, {}}));
@@ -100,21 +100,55 @@ TEST_F(KeychainTest, SaysWhatIsWrongWithTheKeyring) {
     EXPECT_EQ(read(keychain_), failed(ErrorKind::unsupported)) << "no service";
     EXPECT_EQ(save(keychain_, u"sk"_s), failed(ErrorKind::unsupported));
 
-    ASSERT_TRUE(keyring->start("open sesame"));
+    ASSERT_TRUE(keyring_->start("open sesame"));
     ASSERT_EQ(save(keychain_, u"sk-kept"_s), Outcome({u"ok"_s, {}}));
-    keyring->stop();
-    ASSERT_TRUE(keyring->start());
+    keyring_->stop();
+    ASSERT_TRUE(keyring_->start());
     EXPECT_EQ(read(keychain_), failed(ErrorKind::locked));
     EXPECT_EQ(save(keychain_, u"sk-other"_s), failed(ErrorKind::locked));
     EXPECT_EQ(remove(keychain_), failed(ErrorKind::locked));
-    keyring->stop();
-    ASSERT_TRUE(keyring->start("open sesame"));
+    keyring_->stop();
+    ASSERT_TRUE(keyring_->start("open sesame"));
     EXPECT_EQ(read(keychain_), Outcome({u"sk-kept"_s, {}})) << "and is as it was";
 
     SecretServiceKeychain hasty(u"quillon-test"_s, processEnvironment,
                                 {.forLook = 200ms, .forDeed = 200ms});
-    keyring->freeze();
+    keyring_->freeze();
     EXPECT_EQ(read(hasty), failed(ErrorKind::timedOut));
+    keyring_->stop();
+    ASSERT_TRUE(keyring_->start("open sesame"));
+    EXPECT_EQ(read(keychain_), Outcome({u"sk-kept"_s, {}}));
+}
+
+TEST_F(KeychainTest, SaysWhoRefusesAndWhatIsAbsent) {
+    PrivateKeyring refusing(PrivateKeyring::Policy::refusing);
+    ASSERT_TRUE(refusing.start("open sesame"));
+    const struct {
+        std::string address;
+        ErrorKind kind;
+    } rows[] = {
+        {refusing.address().toStdString(), ErrorKind::permissionDenied},
+        {"", ErrorKind::unsupported},
+        {"unix:path=/nowhere", ErrorKind::unsupported},
+    };
+    for (const auto& [address, kind] : rows) {
+        SecretServiceKeychain keychain(u"quillon-test"_s, [&](const char* name) {
+            return std::string_view(name) == "XDG_RUNTIME_DIR" ? std::optional<std::string>()
+                                                               : address;
+        });
+        EXPECT_EQ(read(keychain), failed(kind)) << address;
+        EXPECT_EQ(save(keychain, u"sk"_s), failed(kind)) << address;
+    }
+}
+
+TEST_F(KeychainTest, OutlivesTheBus) {
+    ASSERT_TRUE(keyring_->start("open sesame"));
+    EXPECT_EQ(save(keychain_, u"sk-kept"_s), Outcome({u"ok"_s, {}}));
+    keyring_->stopBus();
+    QElapsedTimer timer;
+    for (timer.start(); timer.elapsed() < 200;)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    EXPECT_EQ(read(keychain_), failed(ErrorKind::unsupported));
 }
 
 } // namespace

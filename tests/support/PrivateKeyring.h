@@ -26,7 +26,7 @@ public:
                        "<busconfig><type>session</type><listen>unix:dir=" + scratch_.root() +
                            "</listen><policy context=\"default\">"
                            "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
-                                       "<allow eavesdrop=\"true\"/>" +
+                           "<allow eavesdrop=\"true\"/>" +
                            refusal + "<allow own=\"*\"/></policy></busconfig>");
         dieWithTest(bus_);
         bus_.start(
@@ -73,7 +73,7 @@ public:
     void freeze() { ::kill(pid_t(daemon_.processId()), SIGSTOP); }
 
 private:
-    static QString name() { return QStringLiteral("private keyring"); }
+    [[nodiscard]] QString name() const { return QStringLiteral("private keyring at ") + address_; }
     QDBusConnection bus() { return QDBusConnection::connectToBus(address_, name()); }
     static void dieWithTest(QProcess& process) {
         process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });

@@ -30,12 +30,12 @@ ModelDownload::ModelDownload(const QString& host, QString name, Listener listene
         end(failure(ErrorKind::timedOut, u"The local server doesn't go on with the download; "
                                          "restart it, and run “quillon model pull” again"_s));
     });
-    const Expected<QUrl> url = localHost(host);
-    if (url)
-        return ask(*url);
-    QMetaObject::invokeMethod(
-        &patience_, [this, error = url.error()] { end(std::unexpected(error)); },
-        Qt::QueuedConnection);
+    if (const Expected<QUrl> url = localHost(host))
+        ask(*url);
+    else
+        QMetaObject::invokeMethod(
+            &patience_, [this, error = url.error()] { end(std::unexpected(error)); },
+            Qt::QueuedConnection);
 }
 
 ModelDownload::~ModelDownload() {
