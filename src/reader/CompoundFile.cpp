@@ -23,7 +23,7 @@ std::vector<std::uint32_t> numbersIn(QByteArrayView bytes) {
 
 QString nameIn(QByteArrayView entry) {
     QString name;
-    const std::uint64_t length = std::min<int>(64, numberAt<std::uint16_t>(entry, 64).value_or(0));
+    const auto length = std::min<std::uint64_t>(64, numberAt<std::uint16_t>(entry, 64).value_or(0));
     for (std::uint64_t at = 0; at + 2 < length; at += 2) { // the last one is zero
         name += QChar(numberAt<char16_t>(entry, at).value_or(0));
     }
