@@ -14,7 +14,8 @@ int main(int argc, char** argv) {
                           .err = std::cerr,
                           .colored = terminal.output && !noColor,
                           .showsProgress = terminal.error,
-                          .mayContinue = untilAskedToStop()};
+                          .mayContinue = untilAskedToStop(),
+                          .askInSecret = secretFromTerminal()};
     const ExitCode code =
         runCommandLine({argv + 1, argv + argc}, console, [] { return currentUserFolders(); });
     endProcess(static_cast<int>(code));

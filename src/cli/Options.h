@@ -149,6 +149,11 @@ struct SettingsOptions {
     bool json = false;
 };
 
+/// Of `model pull` and `model use`.
+struct ModelOptions {
+    std::string name; ///< empty: the recommended one
+};
+
 struct CompletionsOptions {
     std::string (*script)() = nullptr; ///< makes the shell's script
 };

@@ -1,5 +1,6 @@
 #include "cli/ProgressBar.h"
 
+#include <algorithm>
 #include <string>
 
 namespace quillon {
@@ -23,16 +24,29 @@ ProgressBar::~ProgressBar() {
 }
 
 void ProgressBar::update(std::size_t done, std::size_t total) {
-    if (!isShown_ || total == 0)
+    if (total > 0)
+        draw(double(done) / double(total),
+             std::to_string(done) + " of " + std::to_string(total) + " files");
+}
+
+void ProgressBar::updateBytes(std::int64_t done, std::int64_t total) {
+    constexpr std::int64_t megabyte = 1'000'000;
+    if (total > 0)
+        draw(double(done) / double(total),
+             std::to_string(done / megabyte) + " of " + std::to_string(total / megabyte) + " MB");
+}
+
+void ProgressBar::draw(double done, const std::string& figures) {
+    if (!isShown_)
         return;
     const Timestamp now = clock_.now();
     if (now < nextDrawing_)
         return;
     nextDrawing_ = now + betweenDrawings;
     isDrawn_ = true;
-    const std::size_t filled = cells * std::min(done, total) / total;
+    const auto filled = std::size_t(double(cells) * std::clamp(done, 0.0, 1.0));
     terminal_ << "\r\x1b[K[" << std::string(filled, '#') << std::string(cells - filled, '.') << "] "
-              << done << " of " << total << " files";
+              << figures;
     terminal_.flush();
 }
 

@@ -2,7 +2,9 @@
 
 #include "platform/Clock.h"
 
+#include <cstdint>
 #include <ostream>
+#include <string>
 
 namespace quillon {
 
@@ -16,8 +18,11 @@ public:
     ProgressBar& operator=(const ProgressBar&) = delete;
 
     void update(std::size_t done, std::size_t total);
+    void updateBytes(std::int64_t done, std::int64_t total);
 
 private:
+    void draw(double done, const std::string& figures);
+
     std::ostream& terminal_;
     const Clock& clock_;
     bool isShown_;

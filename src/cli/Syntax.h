@@ -46,6 +46,13 @@ namespace quillon {
 [[nodiscard]] Command defineSettingsGet(CLI::App& parser);
 [[nodiscard]] Command defineSettingsSet(CLI::App& parser);
 
+[[nodiscard]] Command defineKeySet(CLI::App& parser);
+[[nodiscard]] Command defineKeyRemove(CLI::App& parser);
+[[nodiscard]] Command defineKeyStatus(CLI::App& parser);
+[[nodiscard]] Command defineModelStatus(CLI::App& parser);
+[[nodiscard]] Command defineModelPull(CLI::App& parser);
+[[nodiscard]] Command defineModelUse(CLI::App& parser);
+
 [[nodiscard]] Command defineCompletions(CLI::App& parser);
 [[nodiscard]] Command defineManual(CLI::App& parser);
 

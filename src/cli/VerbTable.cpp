@@ -77,6 +77,18 @@ constexpr Verb verbs[] = {
     {"settings set", "Change a setting", "quillon settings set notificationsEnabled false",
      defineSettingsSet},
 
+    {"key", "Your key for Claude, kept in the desktop's keyring"},
+    {"key set", "Check a key, read from standard input, and keep it", "quillon key set",
+     defineKeySet},
+    {"key remove", "Forget the key", "quillon key remove", defineKeyRemove},
+    {"key status", "Show whether there is a key and who answers Dobbin", "quillon key status",
+     defineKeyStatus},
+    {"model", "The language model on this computer"},
+    {"model status", "Show whether the local model is ready, and which are installed",
+     "quillon model status", defineModelStatus},
+    {"model pull", "Download a local model", "quillon model pull llama3.2:3b", defineModelPull},
+    {"model use", "Choose the local model", "quillon model use llama3.2:3b", defineModelUse},
+
     {"completions", "Print a script that completes this command in a shell",
      "source <(quillon completions bash)", defineCompletions},
     {"manual", "Print a manual page", "quillon manual rule | man -l -", defineManual},

@@ -46,6 +46,13 @@ namespace quillon {
 [[nodiscard]] ExitCode presetAddCommand(const PresetAddOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode recipeListCommand(const RecipeListOptions&, const Console&, Services&);
 
+[[nodiscard]] ExitCode keySetCommand(const Console&, Services&);
+[[nodiscard]] ExitCode keyRemoveCommand(const Console&, Services&);
+[[nodiscard]] ExitCode keyStatusCommand(const PlainOptions&, const Console&, Services&);
+[[nodiscard]] ExitCode modelStatusCommand(const PlainOptions&, const Console&, Services&);
+[[nodiscard]] ExitCode modelPullCommand(const ModelOptions&, const Console&, Services&);
+[[nodiscard]] ExitCode modelUseCommand(const ModelOptions&, const Console&, Services&);
+
 [[nodiscard]] ExitCode completionsCommand(const CompletionsOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode manualCommand(const ManualOptions&, const Console&, Services&);
 

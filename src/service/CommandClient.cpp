@@ -80,10 +80,15 @@ private:
             console_.err.write(frame_.payload.data(), std::streamsize(frame_.payload.size()))
                 .flush();
         else if (frame_.type == FrameType::wantsInput)
-            sendInput();
+            sendInput(frame_.payload);
     }
 
-    void sendInput() {
+    void sendInput(const std::string& question) {
+        if (!question.empty()) {
+            const auto line = console_.secretLine(question);
+            std::ignore = socket_.send(encodeFrame(FrameType::input, line ? *line + '\n' : ""));
+            return;
+        }
         std::array<char, 1 << 14> space;
         console_.in.read(space.data(), space.size());
         const auto count = std::size_t(console_.in.gcount());

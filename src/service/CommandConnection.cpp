@@ -30,13 +30,15 @@ void CommandConnection::serve(
     RemoteInput in(*this);
     RemoteOutput out(*this, FrameType::output);
     RemoteOutput err(*this, FrameType::errors);
-    const Console console{.in = in,
-                          .out = out,
-                          .err = err,
-                          .colored = request->colored,
-                          .showsProgress = request->showsProgress,
-                          .workingFolder = request->workingFolder,
-                          .mayContinue = [this] { return mayContinue(); }};
+    const Console console{
+        .in = in,
+        .out = out,
+        .err = err,
+        .colored = request->colored,
+        .showsProgress = request->showsProgress,
+        .workingFolder = request->workingFolder,
+        .mayContinue = [this] { return mayContinue(); },
+        .askInSecret = [this](const std::string& question) { return secretLine(question); }};
     const ExitCode code = run(request->arguments, console);
     // Sent even when the command has left the streams in a failed state.
     (void)out.rdbuf()->pubsync();
@@ -74,9 +76,9 @@ bool CommandConnection::send(FrameType type, std::string_view payload) {
     return false;
 }
 
-std::string CommandConnection::input() {
+std::string CommandConnection::input(const std::string& question) {
     const std::scoped_lock guard(receiving_);
-    if (isCancelled_ || !send(FrameType::wantsInput, {}))
+    if (isCancelled_ || !send(FrameType::wantsInput, question))
         return {};
     while (!isCancelled_)
         if (const auto frame = receive(SteadyClock::now() + betweenWakings)) {
@@ -85,6 +87,15 @@ std::string CommandConnection::input() {
             isCancelled_ = true;
         }
     return {};
+}
+
+std::optional<std::string> CommandConnection::secretLine(const std::string& question) {
+    std::string line = input(question);
+    if (line.empty())
+        return std::nullopt;
+    if (line.ends_with('\n'))
+        line.pop_back();
+    return line;
 }
 
 /// Nothing when none has come by then. A stream that has ended, or can't be understood, cancels.

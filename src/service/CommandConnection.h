@@ -40,11 +40,13 @@ public:
 
     /// Waits while the other end has more to read than it takes; false when it is gone.
     bool send(FrameType type, std::string_view payload);
-    /// The next bytes of standard input, none at its end. Waits.
-    [[nodiscard]] std::string input();
+    /// The next bytes of standard input, none at its end. With a question: one line of it with its
+    /// end, for which the other end asks the person there. Waits.
+    [[nodiscard]] std::string input(const std::string& question = {});
 
 private:
     [[nodiscard]] std::optional<Frame> receive(std::chrono::steady_clock::time_point deadline);
+    [[nodiscard]] std::optional<std::string> secretLine(const std::string& question);
     void lookForCancel();
 
     LocalSocket socket_;

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -23,10 +24,15 @@ struct Console {
     std::string workingFolder = {};
     /// Asked before each file is touched; false ends the command early. Empty: always.
     std::function<bool()> mayContinue = {};
+    /// Asks a person and reads what is typed without showing it. Empty: nobody types at `in`.
+    std::function<std::optional<std::string>(const std::string& question)> askInSecret = {};
 
     /// One sentence on `err`.
     void say(const QString& sentence) const;
     void say(const Error& error) const;
+
+    /// One line that nobody else is to see, from a person or from `in`; nothing at its end.
+    [[nodiscard]] std::optional<std::string> secretLine(const std::string& question) const;
 };
 
 } // namespace quillon

@@ -15,7 +15,7 @@ enum class FrameType : std::uint8_t {
     greeting = 1,   ///< instance: texts, see Greeting
     output = 2,     ///< instance: bytes for standard output
     errors = 3,     ///< instance: bytes for standard error
-    wantsInput = 4, ///< instance: send an `input`
+    wantsInput = 4, ///< instance: send an `input`; with a question: one line, typed in secret
     beat = 5,       ///< instance: still at work
     ended = 6,      ///< instance: one byte, the exit code; the last frame
 

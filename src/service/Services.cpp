@@ -1,6 +1,9 @@
 #include "service/Services.h"
 
 #include "assistant/DobbinJudge.h"
+#include "assistant/DobbinResolver.h"
+#include "assistant/FileText.h"
+#include "assistant/backends/AIManager.h"
 #include "platform/FileNames.h"
 #include "platform/linux/BsdtarArchives.h"
 #include "platform/linux/DesktopNotifier.h"
@@ -12,11 +15,12 @@
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/MimeContentTypes.h"
 #include "platform/linux/NextcloudFiles.h"
+#include "platform/linux/ReaderProcess.h"
+#include "platform/linux/SecretServiceKeychain.h"
 #include "platform/linux/SystemClock.h"
 #include "platform/linux/TrashPlaces.h"
 #include "platform/linux/XattrProvenance.h"
 #include "platform/linux/XattrTags.h"
-#include "service/NoQuestions.h"
 #include "store/EventLoopTimers.h"
 #include "store/StorePlaces.h"
 #include "store/ThreadBackground.h"
@@ -71,18 +75,33 @@ struct Services::Machine {
     DobbinJudge judge{fileSystem, clock};
 };
 
-/// What only an open store needs. The store goes first.
+struct Services::Assistant {
+    SecretServiceKeychain keychain{QStringLiteral("com.quillon.app.ai")};
+    AIManager manager;
+
+    explicit Assistant(Machine& machine)
+        : manager(machine.settings, keychain, machine.clock,
+                  [&judge = machine.judge] { judge.clearAnswers(); }) {}
+};
+
+/// What only an open store needs. The store goes first, and the resolver before what the background
+/// may still be using.
 struct Services::OpenStore {
+    ReaderProcess reader{readerProgram()};
+    FileText texts;
     EventLoopTimers timers;
     ThreadBackground background;
     InotifyWatching watching;
     DesktopNotifier notifier;
-    NoQuestions resolver;
+    DobbinResolver resolver;
     AppStore::Life life;
     AppStore store;
 
     OpenStore(Services& services, std::unique_ptr<StoreSession> session, AppStore::Life itsLife)
-        : life(itsLife)
+        : texts(services.machine_->platform, reader)
+        , resolver(services.machine_->judge, texts, background,
+                   [&services]() -> ModelAccess& { return services.assistant(); })
+        , life(itsLife)
         , store(std::move(session),
                 {.platform = services.machine_->platform,
                  .storage = services.machine_->storage,
@@ -173,6 +192,12 @@ bool Services::isInstance() const {
     bool result = false;
     onLoop([&] { result = store_ && store_->life == AppStore::Life::instance; });
     return result;
+}
+
+AIManager& Services::assistant() {
+    if (!assistant_)
+        assistant_ = std::make_unique<Assistant>(*machine_);
+    return assistant_->manager;
 }
 
 Expected<AppStore*> Services::startInstance() {

@@ -13,6 +13,8 @@
 
 namespace quillon {
 
+class AIManager;
+
 /// Builds the platform, the assistant's judge, the engine and the store for one process, and hands
 /// them out by reference. Cheap to make: what costs anything is built when it is first used. Made
 /// and destroyed on the thread of the event loop, to be used from any.
@@ -39,6 +41,10 @@ public:
 
     // On the event loop's thread.
 
+    /// The assistant's settings, key and models; made when it is first asked for, and there until
+    /// these services go.
+    [[nodiscard]] AIManager& assistant();
+
     /// Opens the store as the one instance that lives on; fails with `timedOut` when there is one
     /// already.
     [[nodiscard]] Expected<AppStore*> startInstance();
@@ -63,12 +69,14 @@ public:
 private:
     struct Machine;
     struct OpenStore;
+    struct Assistant;
 
     [[nodiscard]] StoreSession::Services storeServices();
     [[nodiscard]] Expected<void> open(AppStore::Life life);
 
     std::unique_ptr<Machine> machine_;
-    std::unique_ptr<OpenStore> store_; ///< on the event loop's thread alone
+    std::unique_ptr<Assistant> assistant_; ///< on the event loop's thread alone
+    std::unique_ptr<OpenStore> store_;     ///< on the event loop's thread alone
     std::function<void()> stopHandler_;
     bool isStopRequested_ = false; ///< and nobody has handled it
 };

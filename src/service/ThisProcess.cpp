@@ -1,5 +1,6 @@
 #include "service/ThisProcess.h"
 
+#include "platform/linux/HiddenLine.h"
 #include "platform/linux/LinuxUserFolders.h"
 #include "platform/linux/StandardStreams.h"
 #include "platform/linux/StopSignals.h"
@@ -16,6 +17,12 @@ TerminalUse openTerminal() {
 std::function<bool()> untilAskedToStop() {
     noteStopSignals();
     return [] { return !wasAskedToStop(); };
+}
+
+std::function<std::optional<std::string>(const std::string&)> secretFromTerminal() {
+    if (!inputIsTerminal())
+        return {};
+    return readHiddenLine;
 }
 
 void becomeLongLived() {

@@ -20,6 +20,9 @@ struct TerminalUse {
 /// from then on. To be called once, from main. A second request ends the process as usual.
 [[nodiscard]] std::function<bool()> untilAskedToStop();
 
+/// For Console::askInSecret; empty when standard input is no terminal.
+[[nodiscard]] std::function<std::optional<std::string>(const std::string&)> secretFromTerminal();
+
 /// For a process that lives on: notes every request to end, and outlives whoever reads what it
 /// says.
 void becomeLongLived();
