@@ -168,6 +168,17 @@ TEST(AIManager, TakesTheKeyNowhereElse) {
     EXPECT_TRUE(bench.server.requests().isEmpty());
 }
 
+TEST(AIManager, GoesThroughNoProxyOnThisMachine) {
+    const ModelServer proxy;
+    qputenv("http_proxy", proxy.host().toUtf8());
+    AIBench bench;
+    bench.server.haveModels({u"a"_s});
+    bench.server.play("/api/chat", ModelServer::chatAnswer(u"Hay"_s));
+    EXPECT_EQ(bench.ask(), u"Hay"_s);
+    qunsetenv("http_proxy");
+    EXPECT_TRUE(proxy.requests().isEmpty());
+}
+
 TEST(AIManager, SaysWhyThereIsNoLocalModel) {
     AIBench bench({.local = {.look = 500ms, .respond = 500ms}});
     ModelServer& server = bench.server;

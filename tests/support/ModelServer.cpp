@@ -144,7 +144,7 @@ ModelServer::ModelServer() {
             new Line(*this, socket);
     });
     server->moveToThread(&thread_);
-    QObject::connect(&thread_, &QThread::finished, server, &QObject::deleteLater);
+    QObject::connect(&thread_, &QThread::finished, [server] { delete server; }); // on its thread
     thread_.start();
 }
 
