@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <memory>
+#include <tesseract/ocrclass.h>
 
 namespace quillon {
 
@@ -17,7 +18,9 @@ namespace {
 constexpr int longestSide = 20'000;
 constexpr int decodedMegabytes = 200;      ///< for pixels as they are decoded
 constexpr double recognizedPixels = 6.0e6; ///< more would take too long, and letters stay legible
-constexpr float leastConfidence = 40;      ///< in per cent; below are patterns in photographs
+constexpr int mostLines = 40;              ///< of a page of small print, a second or more
+constexpr int mostMilliseconds = 7000;
+constexpr float leastConfidence = 40; ///< in per cent; below are patterns in photographs
 
 QStringList installedLanguages(const QString& folder) {
     QStringList names;
@@ -91,9 +94,13 @@ std::optional<QString> ImageReader::read(QFile& file) {
     recognizer_.SetPageSegMode(tesseract::PSM_AUTO);
     recognizer_.SetImage(image.constBits(), image.width(), image.height(), 1,
                          static_cast<int>(image.bytesPerLine()));
-    if (recognizer_.Recognize(nullptr) != 0) {
-        return std::nullopt;
-    }
+    // Ends early, with what it has seen so far: after enough for anybody, or before we are killed.
+    int lines = 0;
+    tesseract::ETEXT_DESC until;
+    until.cancel_this = &lines;
+    until.cancel = [](void* count, int) { return ++*static_cast<int*>(count) > mostLines; };
+    until.set_deadline_msecs(mostMilliseconds);
+    static_cast<void>(recognizer_.Recognize(&until));
     return confidentLines(recognizer_);
 }
 

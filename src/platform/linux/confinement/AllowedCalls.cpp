@@ -58,13 +58,13 @@ struct ConditionalCall {
     scmp_arg_cmp condition;
 };
 
-const ConditionalCall allowedWhen[] = {
-    {SCMP_SYS(write), SCMP_A0(SCMP_CMP_EQ, STDOUT_FILENO)},
-    {SCMP_SYS(write), SCMP_A0(SCMP_CMP_EQ, STDERR_FILENO)},
-    {SCMP_SYS(writev), SCMP_A0(SCMP_CMP_EQ, STDERR_FILENO)}, // the C library's last words
-    {SCMP_SYS(mmap), SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0)},
-    {SCMP_SYS(mprotect), SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0)},
-    {SCMP_SYS(prlimit64), SCMP_A2(SCMP_CMP_EQ, 0)}, // asks, and sets nothing
+constexpr ConditionalCall allowedWhen[] = {
+    {SCMP_SYS(write), {0, SCMP_CMP_EQ, STDOUT_FILENO, 0}},
+    {SCMP_SYS(write), {0, SCMP_CMP_EQ, STDERR_FILENO, 0}},
+    {SCMP_SYS(writev), {0, SCMP_CMP_EQ, STDERR_FILENO, 0}}, // the C library's last words
+    {SCMP_SYS(mmap), {2, SCMP_CMP_MASKED_EQ, PROT_EXEC, 0}},
+    {SCMP_SYS(mprotect), {2, SCMP_CMP_MASKED_EQ, PROT_EXEC, 0}},
+    {SCMP_SYS(prlimit64), {2, SCMP_CMP_EQ, 0, 0}}, // asks, and sets nothing
 };
 
 using Filter = std::unique_ptr<void, decltype(&::seccomp_release)>;
