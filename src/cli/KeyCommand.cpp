@@ -22,11 +22,12 @@ std::optional<Expected<void>> done(const KeyTask& task, const Console& console,
 /// What is known of the key, and of who answers.
 struct KeyState {
     Expected<QString> suffix; ///< empty without a key
+    bool isInMemory = false;  ///< whatever the keyring says
     bool usesClaude = false;  ///< when there is a key
     ClaudeModel model = ClaudeModel::sonnet;
     int requests = 0;
 
-    [[nodiscard]] bool isClaudeAsked() const { return usesClaude && suffix && !suffix->isEmpty(); }
+    [[nodiscard]] bool isClaudeAsked() const { return usesClaude && isInMemory; }
 };
 
 KeyState keyState(const Expected<void>& loaded, Services& services) {
@@ -37,6 +38,7 @@ KeyState keyState(const Expected<void>& loaded, Services& services) {
             state.suffix = assistant.keySuffix();
         else if (loaded.error().kind != ErrorKind::notFound)
             state.suffix = std::unexpected(loaded.error());
+        state.isInMemory = !assistant.keySuffix().isEmpty();
         state.usesClaude = assistant.useClaude();
         state.model = assistant.claudeModel();
         state.requests = assistant.requestsThisMonth();

@@ -26,6 +26,8 @@ ExitCode echo(const std::vector<std::string>& arguments, const Console& console)
     console.err << "aside";
     if (arguments.back() == "-")
         console.out << console.in.rdbuf();
+    if (arguments.back() == "--secret")
+        console.out << ' ' << console.secretLine("Key: ").value_or("none");
     return arguments.front() == "fail" ? ExitCode::someFailed : ExitCode::done;
 }
 
@@ -57,6 +59,9 @@ TEST(CommandServer, passesStreamsArgumentsAndTheExitCodeOn) {
         {{"check", ""}, "", ExitCode::done, " check "},
         {{"check", "-"}, "", ExitCode::done, " check -"},
         {{"check", "-"}, large, ExitCode::done, " check -" + large},
+        {{"--secret"}, "a key\nmore\n", ExitCode::done, " --secret a key"},
+        {{"--secret"}, "\n", ExitCode::done, " --secret "},
+        {{"--secret"}, "", ExitCode::done, " --secret none"},
     };
     for (const auto& [arguments, input, code, out] : cases) {
         const auto result = bench.serve(arguments, input);

@@ -145,6 +145,8 @@ QCoro::Task<Expected<void>> AIManager::loadKey() {
     const Expected<QString> key = co_await reading;
     if (life.expired())
         co_return gone();
+    if (!key && key.error().kind == ErrorKind::notFound)
+        setKey({});
     if (!key)
         co_return std::unexpected(key.error());
     setKey(*key);

@@ -63,7 +63,8 @@ public:
 
     /// The last four characters of the key in memory, to tell keys apart by; empty without one.
     [[nodiscard]] QString keySuffix() const { return apiKey_.right(4); }
-    /// Takes the key from the keychain into memory; fails like Keychain::read.
+    /// Takes the key from the keychain into memory; fails like Keychain::read. One that was there
+    /// before stays unless the keychain has none.
     [[nodiscard]] QCoro::Task<Expected<void>> loadKey();
     /// Checks a key and keeps it. When that fails, everything stays as it was.
     [[nodiscard]] QCoro::Task<Expected<void>> saveKey(QString typed);
