@@ -64,7 +64,8 @@ ExitCode runCommand(const RunOptions& options, const Console& console, Services&
         options.json ? tellRunsAsJson(reports, console) : tellRuns(reports, console);
     const bool wasStopped = console.mayContinue && !console.mayContinue();
     const auto isTold = [](const RunReport& report) { return report.run.interrupted; };
-    if (!wasStopped || std::ranges::any_of(reports, isTold))
+    const bool isWhole = !options.waits && reports.size() == chosen->size();
+    if (!wasStopped || isWhole || std::ranges::any_of(reports, isTold))
         return code;
     console.say(u"Stopped on request; what is not named here is in the log"_s);
     return ExitCode::someFailed;

@@ -12,6 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 
 /// The built program with a home of its own.
@@ -58,6 +59,17 @@ TEST_F(Agent, filesWhatIsDroppedAndKeepsItsLogThroughStopsAndKills) {
     ASSERT_TRUE(agent_.start()) << agent_.said();
     EXPECT_THAT(log(), HasSubstr("first.pdf"));
     EXPECT_THAT(log(), HasSubstr("second.pdf"));
+    EXPECT_EQ(agent_.stop(), 0);
+}
+
+TEST_F(Agent, saysThatAFolderIsGone) {
+    home_.makeFolder("in");
+    const QString in = QString::fromStdString(home_.path("in"));
+    ASSERT_TRUE(agent_.start()) << agent_.said();
+    EXPECT_EQ(agent_.command({u"folder"_s, u"add"_s, in, u"--timing"_s, u"manual"_s}).code, 0);
+    fs::remove(home_.path("in"));
+    EXPECT_THAT(agent_.command({u"status"_s}).out,
+                AllOf(HasSubstr("not found"), HasSubstr("needs your attention")));
     EXPECT_EQ(agent_.stop(), 0);
 }
 
