@@ -167,7 +167,7 @@ bool TidyRuns::mergeKeys(const Run& run) {
         hasChanged = hasChanged || keys.size() != merged;
     }
     if (hasChanged)
-        all.insert(name, std::move(keys));
+        all.insert(name, keys);
     return hasChanged;
 }
 
