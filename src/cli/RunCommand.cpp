@@ -37,6 +37,10 @@ std::vector<RunReport> runFolders(const StoreAccess& store, const std::vector<QU
                 appStore.runRules(id, RunCause::asked);
         },
         console.mayContinue);
+    // Folders are tidied side by side.
+    std::ranges::stable_sort(reports, {}, [&](const RunReport& report) {
+        return std::ranges::find(folderIDs, report.folderID);
+    });
     if (!waits)
         return reports;
     for (const QUuid& id : folderIDs)

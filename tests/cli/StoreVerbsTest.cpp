@@ -91,6 +91,7 @@ const Refused refusals[] = {
     {{"cleanup", "@other", "--keep"}, ExitCode::usage, "other is not watched"},
     {{"cleanup", "@none"}, ExitCode::unreadable, "No such file"},
     {{"cleanup", "@other/b.pdf"}, ExitCode::unreadable, "b.pdf can't be read"},
+    {{"recipe", "list", "--folder", "@none"}, ExitCode::unreadable, "No such file"},
     {{"log", "--folder", "@other"}, ExitCode::usage, "is not watched"},
     {{"log", "--since", "last night"}, ExitCode::usage, "is not a time; try “yesterday 18:00”"},
     {{"undo", "--last"}, ExitCode::someFailed, "There is nothing to undo"},
