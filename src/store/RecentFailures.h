@@ -18,8 +18,11 @@ inline constexpr std::chrono::hours failurePause{1};
 class RecentFailures {
 public:
     void add(std::uint64_t file, std::uint64_t rule, Timestamp now) {
-        failures_.removeIf([&](const auto& entry) { return isOver(entry.value(), now); });
         failures_.insert({file, rule}, now);
+    }
+    /// Looks at all of them, of which a folder may have many: to be called once a run.
+    void forgetOld(Timestamp now) {
+        failures_.removeIf([&](const auto& entry) { return isOver(entry.value(), now); });
     }
     [[nodiscard]] bool contains(std::uint64_t file, std::uint64_t rule, Timestamp now) const {
         const auto found = failures_.constFind({file, rule});

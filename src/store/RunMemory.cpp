@@ -79,8 +79,10 @@ std::vector<LogEntry> RunMemory::absorb(const WatchedFolder& folder, const RunRe
     for (const HandledFile& file : run.handled)
         if (const auto rule = rules.constFind(file.ruleID); rule != rules.constEnd())
             handle(file, {folder.id, *rule}, restraint != nullptr, now);
+    RecentFailures& failures = failures_[folder.id];
+    failures.forgetOld(now);
     for (const FailedFile& file : run.failed)
-        failures_[folder.id].add(stableHash(file.key), rules.value(file.ruleID), now);
+        failures.add(stableHash(file.key), rules.value(file.ruleID), now);
     prune(folder.id, run, {rules.begin(), rules.end()}, now);
     return entries;
 }
