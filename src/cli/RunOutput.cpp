@@ -6,6 +6,7 @@
 #include "store/Sentences.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace quillon {
 
@@ -110,10 +111,12 @@ ExitCode tellRunsAsJson(const std::vector<RunReport>& reports, const Console& co
 }
 
 void addReach(const std::vector<LogEntry>& entries, LineBuffer& lines) {
-    if (entries.size() > logCap)
+    const auto lost = std::ranges::count_if(entries | std::views::drop(logCap),
+                                            [](const LogEntry& entry) { return entry.undoable; });
+    if (lost > 0)
         lines
             .add(u"The log keeps %1 entries, so undo does not reach %2 of these files."_s.arg(
-                QString::number(logCap), QString::number(entries.size() - logCap)))
+                QString::number(logCap), QString::number(lost)))
             .endLine();
 }
 
