@@ -3,6 +3,7 @@
 #include "cli/OpenFolder.h"
 #include "cli/OpenStore.h"
 #include "cli/RunOutput.h"
+#include "cli/ShellWord.h"
 #include "cli/Verbs.h"
 #include "platform/FileNames.h"
 #include "store/Sentences.h"
@@ -81,11 +82,12 @@ ExitCode folderAddCommand(const WatchedFolderOptions& options, const Console& co
         if (isKnown)
             known.append(path);
         else
-            sentences.append(
-                u"Watching %1. Give it rules with: quillon rule add --folder %1"_s.arg(path));
+            sentences.append(u"Watching %1. Give it rules with: quillon rule add --folder %2"_s.arg(
+                path, shellWord(path)));
     }
     for (const QString& path : known)
-        console.say(u"%1 is watched already; to change how: quillon folder set %1"_s.arg(path));
+        console.say(u"%1 is watched already; to change how: quillon folder set %2"_s.arg(
+            path, shellWord(path)));
     if (sentences.isEmpty())
         return ExitCode::someFailed;
     const auto addAll = [&](AppStore& appStore) {

@@ -3,6 +3,7 @@
 #include "cli/LocalTime.h"
 #include "cli/NamedFolder.h"
 #include "cli/StoreFailure.h"
+#include "cli/TimeSpan.h"
 #include "cli/Verbs.h"
 #include "model/Uuid.h"
 
@@ -38,9 +39,11 @@ Chosen<std::vector<LogEntry>> ofFolder(std::vector<LogEntry> logs, const std::st
     return logs;
 }
 
-std::vector<LogEntry> chosen(std::vector<LogEntry> logs, const LogOptions& options) {
-    if (options.errorsOnly)
-        std::erase_if(logs, [](const LogEntry& entry) { return !entry.isError; });
+std::vector<LogEntry> chosen(std::vector<LogEntry> logs, const LogOptions& options,
+                             const TimeSpan& span) {
+    std::erase_if(logs, [&](const LogEntry& entry) {
+        return (options.errorsOnly && !entry.isError) || !span.contains(entry.date);
+    });
     if (options.limit && logs.size() > *options.limit)
         logs.resize(*options.limit);
     return logs;
@@ -76,6 +79,9 @@ void printText(const std::vector<LogEntry>& logs, const Console& console) {
 } // namespace
 
 ExitCode logCommand(const LogOptions& options, const Console& console, Services& services) {
+    const auto span = timeSpan(options.since, options.before, services.platform().clock.now());
+    if (!span)
+        return sayRefusal(span.error(), console);
     const auto view = services.viewStore();
     if (!view)
         return sayStoreFailure(view.error(), console);
@@ -86,12 +92,13 @@ ExitCode logCommand(const LogOptions& options, const Console& console, Services&
         found = ofFolder(std::move(*found), options.folder, view->state.folders, console, services);
     if (!found)
         return sayRefusal(found.error(), console);
-    const std::vector<LogEntry> logs = chosen(std::move(*found), options);
+    const std::vector<LogEntry> logs = chosen(std::move(*found), options, *span);
     if (options.json)
         printJson(logs, console.out);
     else if (logs.empty())
-        console.out << (options.errorsOnly ? "Nothing has gone wrong.\n"
-                                           : "Nothing has been done yet.\n");
+        console.out << (options.errorsOnly            ? "Nothing has gone wrong.\n"
+                        : span->since || span->before ? "Nothing was done then.\n"
+                                                      : "Nothing has been done yet.\n");
     else
         printText(logs, console);
     return ExitCode::done;

@@ -1,5 +1,6 @@
 #include "cli/NamedFolder.h"
 
+#include "cli/ShellWord.h"
 #include "model/NearestWord.h"
 #include "store/Sentences.h"
 
@@ -22,7 +23,7 @@ std::string tidied(const std::string& path) {
 
 QString nearestWatched(const std::string& path, const std::vector<WatchedFolder>& folders) {
     if (folders.empty())
-        return u"no folder is; begin with: quillon folder add %1"_s.arg(pathText(path));
+        return u"no folder is; begin with: quillon folder add %1"_s.arg(shellWord(pathText(path)));
     std::vector<std::string> paths;
     for (const WatchedFolder& folder : folders)
         paths.push_back(folder.path.toStdString());

@@ -46,11 +46,7 @@ void addOneShotRun(const OneShotRun& run, LineBuffer& lines) {
     totals.add(std::size_t(run.run.waiting.size()), u"waiting for Dobbin"_s);
     totals.addLeftAlone(run.deferred, run.skippedNames);
     lines.add(totals.sentence()).endLine();
-    if (entries.size() > logCap)
-        lines
-            .add(u"The log keeps %1 entries, so undo does not reach %2 of these files."_s.arg(
-                QString::number(logCap), QString::number(entries.size() - logCap)))
-            .endLine();
+    addReach(entries, lines);
 }
 
 void addUndoHint(const OneShotRun& run, LineBuffer& lines) {

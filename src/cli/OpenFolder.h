@@ -25,7 +25,7 @@ openFolder(const std::string& path, const Console& console, Services& services);
 [[nodiscard]] std::expected<WatchedFolder, ExitCode>
 viewFolder(const std::string& path, const Console& console, Services& services);
 
-/// Makes a change that sets off runs and waits for them. Prints `sentence` and what the runs did,
+/// Makes a change that sets off runs and waits for them. Prints the sentences and what the runs did,
 /// or, as JSON, only these.
 [[nodiscard]] ExitCode changeAndRun(const StoreAccess& store,
                                     const std::function<void(AppStore&)>& change,

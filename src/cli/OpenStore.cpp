@@ -24,8 +24,8 @@ ExitCode sayWhetherSaved(const StoreAccess& store, const Console& console) {
     const auto error = store.call([](AppStore& appStore) { return appStore.lastSaveError(); });
     if (!error)
         return ExitCode::done;
-    console.say(u"The change can't be saved (%1); once that is put right, make it again"_s.arg(
-        error->message));
+    console.say(u"The change can't be saved (%1). A running agent tries again every minute; "
+                "without one, put that right and make the change again"_s.arg(error->message));
     return ExitCode::someFailed;
 }
 

@@ -29,15 +29,19 @@ struct CheckOptions {
 struct LogOptions {
     std::string folder; ///< empty: every folder
     bool errorsOnly = false;
+    std::string since;  ///< see timeSpan
+    std::string before; ///< likewise
     std::optional<std::size_t> limit;
     bool json = false;
 };
 
-/// Exactly one of the first three is given.
+/// One of the first three, or of the two others at least one, is given.
 struct UndoOptions {
     std::string entry; ///< a UUID or the beginning of one
     std::string batch; ///< likewise
     bool last = false;
+    std::string since;  ///< see timeSpan
+    std::string before; ///< likewise
     bool json = false;
 };
 

@@ -56,9 +56,16 @@ void printText(const std::vector<CleanupRecipe>& recipes, const Console& console
 ExitCode recipeListCommand(const RecipeListOptions& options, const Console& console,
                            Services& services) {
     WatchedFolder folder;
-    if (!options.folder.empty())
-        folder.path = pathText(
-            services.platform().fileSystem.resolved(absolutePath(options.folder, console)));
+    if (!options.folder.empty()) {
+        const FileSystem& fileSystem = services.platform().fileSystem;
+        const std::string path = fileSystem.resolved(absolutePath(options.folder, console));
+        if (const auto listing = fileSystem.list(path, {}); !listing) {
+            console.say(u"The folder %1 can't be read: %2"_s.arg(pathText(options.folder),
+                                                                 listing.error().message));
+            return ExitCode::unreadable;
+        }
+        folder.path = pathText(path);
+    }
     const std::vector<CleanupRecipe> recipes = recipesFor(folder);
     if (options.json)
         printJson(recipes, console.out);

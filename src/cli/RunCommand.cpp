@@ -39,6 +39,10 @@ std::vector<RunReport> runFolders(const StoreAccess& store, const std::vector<QU
                 appStore.runRules(id, RunCause::asked);
         },
         console.mayContinue);
+    // Folders are tidied side by side.
+    std::ranges::stable_sort(reports, {}, [&](const RunReport& report) {
+        return std::ranges::find(folderIDs, report.folderID);
+    });
     if (!waits)
         return reports;
     QStringList problems;
@@ -76,7 +80,8 @@ ExitCode runCommand(const RunOptions& options, const Console& console, Services&
                     "“quillon agent” asks him by itself"_s);
     const bool wasStopped = console.mayContinue && !console.mayContinue();
     const auto isTold = [](const RunReport& report) { return report.run.interrupted; };
-    if (!wasStopped || std::ranges::any_of(reports, isTold))
+    const bool isWhole = !options.waits && reports.size() == chosen->size();
+    if (!wasStopped || isWhole || std::ranges::any_of(reports, isTold))
         return code;
     console.say(u"Stopped on request; what is not named here is in the log"_s);
     return ExitCode::someFailed;

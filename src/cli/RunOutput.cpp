@@ -2,9 +2,11 @@
 
 #include "cli/JsonOutput.h"
 #include "cli/Totals.h"
+#include "store/PersistedState.h"
 #include "store/Sentences.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace quillon {
 
@@ -47,6 +49,7 @@ void addFolder(const RunReport& report, LineBuffer& lines) {
     totals.add(std::size_t(report.run.waiting.size()), u"waiting for Dobbin"_s);
     totals.addLeftAlone(report.deferred, report.skippedNames);
     lines.add(totals.sentence()).endLine();
+    addReach(entries, lines);
 }
 
 } // namespace
@@ -105,6 +108,16 @@ ExitCode tellRunsAsJson(const std::vector<RunReport>& reports, const Console& co
     json.endList();
     finish(json, console.out);
     return sayHowRunsEnded(reports, console);
+}
+
+void addReach(const std::vector<LogEntry>& entries, LineBuffer& lines) {
+    const auto lost = std::ranges::count_if(entries | std::views::drop(logCap),
+                                            [](const LogEntry& entry) { return entry.undoable; });
+    if (lost > 0)
+        lines
+            .add(u"The log keeps %1 entries, so undo does not reach %2 of these files."_s.arg(
+                QString::number(logCap), QString::number(lost)))
+            .endLine();
 }
 
 void addEntries(const std::vector<LogEntry>& entries, LineBuffer& lines) {

@@ -25,6 +25,9 @@ void addRuns(const std::vector<RunReport>& reports, LineBuffer& lines);
 [[nodiscard]] ExitCode tellRunsAsJson(const std::vector<RunReport>& reports,
                                       const Console& console);
 
+/// Says which of a run's entries undo won't reach, where there are so many.
+void addReach(const std::vector<LogEntry>& entries, LineBuffer& lines);
+
 /// One line a file.
 void addEntries(const std::vector<LogEntry>& entries, LineBuffer& lines);
 

@@ -24,6 +24,13 @@ std::pair<std::string, int> parseDays(const std::string& text) {
     return {text.substr(0, sign), days};
 }
 
+void addTimeSpan(CLI::App& parser, std::string& since, std::string& before,
+                 const std::string& what) {
+    parser.add_option("--since", since, what + " since then: “yesterday 18:00”, “2026-03-31”")
+        ->type_name("TIME");
+    parser.add_option("--before", before, what + " before then")->type_name("TIME");
+}
+
 } // namespace
 
 Command defineRun(CLI::App& parser) {
@@ -64,6 +71,7 @@ Command defineLog(CLI::App& parser) {
     const auto options = std::make_shared<LogOptions>();
     addFolderOption(parser, options->folder, "Only what was done in this watched folder");
     parser.add_flag("--errors", options->errorsOnly, "Only what went wrong");
+    addTimeSpan(parser, options->since, options->before, "Only what was done");
     addParsed(parser, "--limit", options->limit, parseLimit, "At most N entries, the newest")
         ->type_name("N");
     addJson(parser, options->json);
@@ -76,12 +84,14 @@ Command defineUndo(CLI::App& parser) {
         ->type_name("");
     parser.add_option("--batch", options->batch, "Everything that one run did")->type_name("ID");
     parser.add_flag("--last", options->last, "The newest entry that can be undone");
+    addTimeSpan(parser, options->since, options->before, "Everything done");
     addJson(parser, options->json);
     parser.callback([&parser, options] {
-        const std::size_t given =
-            parser.count("ENTRY") + parser.count("--batch") + std::size_t(options->last ? 1 : 0);
+        const bool hasSpan = parser.count("--since") + parser.count("--before") > 0;
+        const std::size_t given = parser.count("ENTRY") + parser.count("--batch") +
+                                  std::size_t(options->last) + std::size_t(hasSpan);
         if (given != 1)
-            throw CLI::ValidationError("Give one of ENTRY, --batch ID and --last");
+            throw CLI::ValidationError("Give one of ENTRY, --batch ID, --last and --since TIME");
     });
     return bound<undoCommand>(options);
 }

@@ -146,7 +146,9 @@ void printText(const StoreSnapshot& view, const std::string& dataFolder, Timesta
             .endLine();
     for (const QString& warning : view.warnings + view.watchWarnings)
         lines.add(warning, LineBuffer::Style::bad).endLine();
-    if (isAttentionNeeded(view, now))
+    // A folder's own line says so when it is missing.
+    if (std::ranges::any_of(view.state.logs,
+                            [&](const LogEntry& entry) { return isRecentError(entry, now); }))
         lines.add(u"Something needs your attention; see: quillon log --errors"_s).endLine();
     lines.add(u"Data: "_s + pathText(dataFolder), LineBuffer::Style::faint).endLine();
 }

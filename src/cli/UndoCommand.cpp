@@ -3,6 +3,7 @@
 #include "cli/OpenStore.h"
 #include "cli/ProgressBar.h"
 #include "cli/Refusal.h"
+#include "cli/TimeSpan.h"
 #include "cli/Totals.h"
 #include "cli/Verbs.h"
 #include "model/Uuid.h"
@@ -68,13 +69,29 @@ Chosen<std::vector<QUuid>> chosenBatch(const std::string& given,
     return chosen;
 }
 
+Chosen<std::vector<QUuid>> chosenSpan(const UndoOptions& options, const std::vector<LogEntry>& logs,
+                                      Timestamp now) {
+    const auto span = timeSpan(options.since, options.before, now);
+    if (!span)
+        return std::unexpected(span.error());
+    std::vector<QUuid> chosen;
+    for (const LogEntry& entry : logs)
+        if (span->contains(entry.date) && canBeUndone(entry))
+            chosen.push_back(entry.id);
+    if (chosen.empty())
+        return refusal(ExitCode::someFailed, u"Nothing that was done then can be undone"_s);
+    return chosen;
+}
+
 Chosen<std::vector<QUuid>> chosenEntries(const UndoOptions& options,
                                          const std::vector<LogEntry>& logs,
-                                         const FileSystem& fileSystem) {
+                                         const Platform& platform) {
+    if (!options.since.empty() || !options.before.empty())
+        return chosenSpan(options, logs, platform.clock.now());
     if (!options.last)
         return options.batch.empty() ? chosenEntry(options.entry, logs)
                                      : chosenBatch(options.batch, logs);
-    const auto entry = newestUndoable(logs, fileSystem);
+    const auto entry = newestUndoable(logs, platform.fileSystem);
     if (!entry)
         return refusal(ExitCode::someFailed, u"There is nothing to undo"_s);
     return std::vector{entry->id};
@@ -142,7 +159,7 @@ ExitCode undoCommand(const UndoOptions& options, const Console& console, Service
     if (!store)
         return store.error();
     const auto logs = store->call([](AppStore& appStore) { return appStore.recentLogs(); });
-    const auto chosen = chosenEntries(options, logs, services.platform().fileSystem);
+    const auto chosen = chosenEntries(options, logs, services.platform());
     if (!chosen)
         return sayRefusal(chosen.error(), console);
 

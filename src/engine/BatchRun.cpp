@@ -224,11 +224,14 @@ void BatchRun::act(Taken& taken, LogEntry& entry) {
             break;
         }
     }
+    const bool failed = entry.isError && !acted;
     if (!entry.actionSummary.isEmpty())
         result_.entries.push_back(std::move(entry));
-    if (!keepsKeys_ || !acted)
+    if (!keepsKeys_ || (!acted && !failed))
         return;
     handled.keyBefore = listedKey(*taken.file);
+    if (failed)
+        return result_.failed.push_back({rule.id, handled.keyBefore});
     if (remains)
         handled.keyAfter = currentKey(context.path);
     result_.handled.push_back(std::move(handled));

@@ -3,6 +3,8 @@
 #include "model/NearestWord.h"
 #include "model/RawValue.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <utility>
 

@@ -24,6 +24,14 @@ struct HandledFile {
     bool operator==(const HandledFile&) const = default;
 };
 
+/// A file for which a rule could do nothing at all.
+struct FailedFile {
+    QUuid ruleID;
+    QString key; ///< as listed
+
+    bool operator==(const FailedFile&) const = default;
+};
+
 /// The outcome of a batch.
 struct RunResult {
     std::vector<LogEntry> entries; ///< one a file, in the order in which they were handled
@@ -32,6 +40,7 @@ struct RunResult {
     QStringList waiting;              ///< names of files that wait for the assistant
     QSet<QString> waitingKeys;        ///< of those files; empty for a folder without an identity
     std::vector<HandledFile> handled; ///< where something was done; empty likewise
+    std::vector<FailedFile> failed;   ///< empty likewise
     bool interrupted = false;         ///< EngineSettings::mayContinue ended the run early
     /// Set when the journal could not be written and the run ended early.
     std::optional<Error> stopped;

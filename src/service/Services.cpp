@@ -181,10 +181,10 @@ Expected<StoreSnapshot> Services::viewStore() {
         snapshot =
             StoreSnapshot{.state = std::move(view->state), .warnings = std::move(view->warnings)};
     }
+    // As they are now: an instance looks seldom.
     for (const WatchedFolder& folder : snapshot->state.folders)
-        if (!snapshot->access.contains(folder.id))
-            snapshot->access.insert(folder.id,
-                                    probeAccess(machine_->fileSystem, folder.path.toStdString()));
+        snapshot->access.insert(folder.id,
+                                probeAccess(machine_->fileSystem, folder.path.toStdString()));
     return *snapshot;
 }
 

@@ -10,6 +10,9 @@
 namespace quillon {
 namespace {
 
+/// How long runs that are to end early may take to tell what they have done.
+constexpr std::chrono::seconds endGrace{2};
+
 /// What a waiting command and the store's thread share. It outlives a command that stops waiting.
 struct Waiting {
     Signal signal;
@@ -30,20 +33,27 @@ void StoreAccess::onStoreThread(const std::function<void()>& work) const {
 std::vector<RunReport> StoreAccess::runsOf(const std::function<void(AppStore&)>& change,
                                            const std::function<bool()>& mayContinue) const {
     const auto waiting = std::make_shared<Waiting>();
+    std::uint64_t before = 0;
+    std::uint64_t last = 0;
     onStoreThread([&] {
-        const std::uint64_t before = store_->lastRunNumber();
+        before = store_->lastRunNumber();
         waiting->listening = QObject::connect(store_, &AppStore::runFinished, store_,
                                               [waiting, before](const RunReport& report) {
                                                   if (report.number > before)
                                                       waiting->reports.push_back(report);
                                               });
         change(*store_);
-        store_->afterRuns(store_->lastRunNumber(), [waiting] {
+        last = store_->lastRunNumber();
+        store_->afterRuns(last, [waiting] {
             QObject::disconnect(waiting->listening);
             waiting->signal.raise();
         });
     });
-    waiting->signal.wait(mayContinue);
+    if (!waiting->signal.wait(mayContinue)) {
+        onStoreThread([&] { store_->endRunsEarly(before + 1, last); });
+        const auto end = std::chrono::steady_clock::now() + endGrace;
+        waiting->signal.wait([end] { return std::chrono::steady_clock::now() < end; });
+    }
     std::vector<RunReport> reports;
     onStoreThread([&] {
         QObject::disconnect(waiting->listening);

@@ -29,7 +29,8 @@ public:
     }
 
     /// As call(), then waits for the runs that `change` has set off, and returns what came of each.
-    /// Ends early, with fewer, when `mayContinue` turns false; those runs then end by themselves.
+    /// When `mayContinue` turns false these runs end after the file that they are at; one that
+    /// takes long over that is left out.
     [[nodiscard]] std::vector<RunReport> runsOf(const std::function<void(AppStore&)>& change,
                                                 const std::function<bool()>& mayContinue) const;
 

@@ -8,7 +8,6 @@ StoreSnapshot snapshotOf(const AppStore& store) {
                                      .processedFiles = store.processedFiles(),
                                      .isPaused = store.isPaused(),
                                      .other = {}},
-                           .access = store.folderAccess(),
                            .watchWarnings = store.watchWarnings(),
                            .lastSaveError = store.lastSaveError(),
                            .lastScheduledRun = store.lastScheduledRun()};

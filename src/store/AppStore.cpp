@@ -50,6 +50,7 @@ AppStore::AppStore(std::unique_ptr<StoreSession> session, const Surroundings& su
     connect(this, &AppStore::recentLogsChanged, this, &AppStore::updateAttention);
     connect(this, &AppStore::folderAccessChanged, this, &AppStore::updateAttention);
     connect(this, &AppStore::foldersChanged, this, &AppStore::updateAttention);
+    connect(this, &AppStore::runFinished, this, &AppStore::compareAccess);
     if (life == Life::instance)
         startLiving();
     if (!folders().empty())
@@ -90,6 +91,14 @@ void AppStore::updateAttention() {
         return;
     state_->needsAttention = needs;
     Q_EMIT needsAttentionChanged();
+}
+
+/// A run has just found the folder, or not.
+void AppStore::compareAccess(const RunReport& report) {
+    const auto known = state_->folderAccess.constFind(report.folderID);
+    if (known != state_->folderAccess.constEnd() &&
+        (*known == FolderAccess::ok) == report.unlisted.has_value())
+        refreshAccess();
 }
 
 const std::vector<WatchedFolder>& AppStore::folders() const {
@@ -386,6 +395,10 @@ std::uint64_t AppStore::lastRunNumber() const {
 
 void AppStore::afterRuns(std::uint64_t number, std::function<void()> done) {
     state_->runs.afterRuns(number, std::move(done));
+}
+
+void AppStore::endRunsEarly(std::uint64_t first, std::uint64_t last) {
+    state_->runs.endEarly(first, last);
 }
 
 bool AppStore::isSettling(const QUuid& folderID) const {

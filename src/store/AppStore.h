@@ -134,6 +134,8 @@ public:
     [[nodiscard]] std::uint64_t lastRunNumber() const;
     /// Calls `done` once every run up to that number has finished; at once when they have.
     void afterRuns(std::uint64_t number, std::function<void()> done);
+    /// Those of these runs that have not finished end after the file that they are at.
+    void endRunsEarly(std::uint64_t first, std::uint64_t last);
     /// Whether the folder will be looked at again because files in it were still settling.
     [[nodiscard]] bool isSettling(const QUuid& folderID) const;
     /// Whether the folder is being tidied or will be looked at again by itself: files in it are
@@ -202,6 +204,7 @@ private:
     void startLiving();
     void syncWatching();
     void updateAttention();
+    void compareAccess(const RunReport& report);
     void foldersEdited();
     template <typename Edit>
     bool update(const QUuid& folderID, const Edit& edit);

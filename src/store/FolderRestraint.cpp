@@ -4,8 +4,8 @@
 
 namespace quillon {
 
-FolderRestraint::FolderRestraint(const WatchedFolder& folder, FolderDeeds deeds, RingWatch rings)
-    : folderID_(folder.id), deeds_(std::move(deeds)), rings_(std::move(rings)) {
+FolderRestraint::FolderRestraint(const WatchedFolder& folder, Known known)
+    : folderID_(folder.id), known_(std::move(known)) {
     for (const Rule& rule : folder.rules)
         rules_.insert(rule.id, stableHash(rule));
 }
@@ -16,13 +16,13 @@ bool FolderRestraint::hasActed(const Rule& rule, const QString& fileKey) const {
 }
 
 bool FolderRestraint::mayAct(const Rule& rule, const QString& fileKey) {
-    const auto known = rules_.constFind(rule.id);
-    if (known == rules_.constEnd())
+    const auto hash = rules_.constFind(rule.id);
+    if (hash == rules_.constEnd())
         return true;
     const std::uint64_t file = stableHash(fileKey);
-    if (deeds_.contains(file, *known))
+    if (known_.deeds.contains(file, *hash) || known_.failures.contains(file, *hash, known_.now))
         return false;
-    if (!rings_.isOver(file, {.folderID = folderID_, .rule = *known}))
+    if (!known_.rings.isOver(file, {.folderID = folderID_, .rule = *hash}))
         return true;
     stops_.push_back({.ruleID = rule.id, .fileKey = fileKey});
     return false;

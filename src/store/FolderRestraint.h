@@ -3,6 +3,7 @@
 #include "engine/RunRestraint.h"
 #include "model/WatchedFolder.h"
 #include "store/FolderDeeds.h"
+#include "store/RecentFailures.h"
 #include "store/RingWatch.h"
 
 #include <QHash>
@@ -16,7 +17,15 @@ namespace quillon {
 /// What one automatic run of a folder must leave alone, as it was known when the run began.
 class FolderRestraint final : public RunRestraint {
 public:
-    FolderRestraint(const WatchedFolder& folder, FolderDeeds deeds, RingWatch rings);
+    /// What the memory knows when the run begins.
+    struct Known {
+        FolderDeeds deeds;
+        RecentFailures failures;
+        RingWatch rings;
+        Timestamp now;
+    };
+
+    FolderRestraint(const WatchedFolder& folder, Known known);
 
     [[nodiscard]] bool hasActed(const Rule& rule, const QString& fileKey) const override;
     [[nodiscard]] bool mayAct(const Rule& rule, const QString& fileKey) override;
@@ -31,8 +40,7 @@ public:
 private:
     QUuid folderID_;
     QHash<QUuid, std::uint64_t> rules_; ///< hashes by id
-    FolderDeeds deeds_;
-    RingWatch rings_;
+    Known known_;
     std::vector<Stop> stops_;
 };
 

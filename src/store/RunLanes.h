@@ -21,7 +21,7 @@ public:
     void add(const QString& lane, Piece piece);
 
     /// Drops what has not begun and whatever is added later, and calls `idle` when all the rest has
-    /// ended. Once.
+    /// ended. A later call replaces `idle`.
     void close(std::function<void()> idle);
     [[nodiscard]] bool isClosed() const { return isClosed_; }
 

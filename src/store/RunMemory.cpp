@@ -50,8 +50,13 @@ bool RunMemory::liesInAnother(QStringView file, const QUuid& folderID) const {
     return false;
 }
 
-std::unique_ptr<FolderRestraint> RunMemory::restraint(const WatchedFolder& folder) const {
-    return std::make_unique<FolderRestraint>(folder, deeds_.value(folder.id), rings_);
+std::unique_ptr<FolderRestraint> RunMemory::restraint(const WatchedFolder& folder,
+                                                      Timestamp now) const {
+    return std::make_unique<FolderRestraint>(
+        folder, FolderRestraint::Known{.deeds = deeds_.value(folder.id),
+                                       .failures = failures_.value(folder.id),
+                                       .rings = rings_,
+                                       .now = now});
 }
 
 std::vector<LogEntry> RunMemory::absorb(const WatchedFolder& folder, const RunResult& run,
@@ -74,6 +79,10 @@ std::vector<LogEntry> RunMemory::absorb(const WatchedFolder& folder, const RunRe
     for (const HandledFile& file : run.handled)
         if (const auto rule = rules.constFind(file.ruleID); rule != rules.constEnd())
             handle(file, {folder.id, *rule}, restraint != nullptr, now);
+    RecentFailures& failures = failures_[folder.id];
+    failures.forgetOld(now);
+    for (const FailedFile& file : run.failed)
+        failures.add(stableHash(file.key), rules.value(file.ruleID), now);
     prune(folder.id, run, {rules.begin(), rules.end()}, now);
     return entries;
 }
@@ -154,6 +163,7 @@ void RunMemory::keepOnly(const std::vector<WatchedFolder>& folders) {
     if (deeds_.removeIf(isGone) > 0)
         changed_ = true;
     names_.removeIf(isGone);
+    failures_.removeIf(isGone);
 }
 
 QByteArray RunMemory::encode() const {

@@ -4,6 +4,7 @@
 #include "model/WatchedFolder.h"
 #include "store/FolderDeeds.h"
 #include "store/FolderRestraint.h"
+#include "store/RecentFailures.h"
 #include "store/RingWatch.h"
 
 #include <QByteArray>
@@ -16,12 +17,14 @@
 namespace quillon {
 
 /// What automatic runs must not do again: a rule leaves a file alone once it has acted on it, until
-/// the file or the rule changes; and rules that hand a file round between folders are stopped after
-/// the third lap. One thread; a restraint is a copy that another thread may use.
+/// the file or the rule changes, and for an hour when it failed; and rules that hand a file round
+/// between folders are stopped after the third lap. One thread; a restraint is a copy that another
+/// thread may use.
 class RunMemory {
 public:
     /// For an automatic run of the folder.
-    [[nodiscard]] std::unique_ptr<FolderRestraint> restraint(const WatchedFolder& folder) const;
+    [[nodiscard]] std::unique_ptr<FolderRestraint> restraint(const WatchedFolder& folder,
+                                                             Timestamp now) const;
 
     /// Takes in what a run of the folder, with these rules, has done: an automatic one with its
     /// restraint, one that the user asked for without any. `now` is the date of the error entries
@@ -34,7 +37,7 @@ public:
     /// from one of them to another, and what is remembered of any other is dropped.
     void keepOnly(const std::vector<WatchedFolder>& folders);
 
-    /// What outlives the process: the files that were acted on, not the laps.
+    /// What outlives the process: the files that were acted on, not the laps nor the failures.
     [[nodiscard]] QByteArray encode() const;
     /// Starts anew from what encode() gave; anything else is an empty memory.
     void decode(const QByteArray& bytes);
@@ -58,6 +61,7 @@ private:
                Timestamp now);
 
     QHash<QUuid, FolderDeeds> deeds_;
+    QHash<QUuid, RecentFailures> failures_;
     RingWatch rings_;
     QHash<QUuid, Place> places_;
     QHash<QUuid, QHash<std::uint64_t, QString>> names_; ///< of rules, as a person is told of them

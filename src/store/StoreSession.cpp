@@ -90,6 +90,10 @@ void StoreSession::takeIn(const JournalContents& journal) {
         warnings_.append(
             u"An earlier run was interrupted; what it did to %1 is now in the activity log"_s.arg(
                 counted(found, u"file"_s)));
+    if (found > logCap)
+        warnings_.append(
+            u"The log keeps %1 entries, so undo does not reach %2 of these files"_s.arg(
+                QString::number(logCap), QString::number(found - logCap)));
     if (const std::size_t back = dropTakenBack(journal, state_.logs, services_.fileSystem))
         warnings_.append(
             u"An earlier undo was interrupted; %1 that it had put back is no longer in the "

@@ -60,7 +60,7 @@ std::uint64_t TidyRuns::request(const QUuid& folderID, RunCause cause) {
         return waiting->second.number;
     }
     const std::uint64_t number = ++lastNumber_;
-    unfinished_.insert(number);
+    unfinished_.emplace(number, std::make_shared<std::atomic<bool>>(false));
     waiting_.emplace(folderID, Request{number, cause});
     core_.lanes.add(folder->path,
                     {.start = [this, folderID](const auto& ended) { start(folderID, ended); },
@@ -79,10 +79,13 @@ void TidyRuns::start(const QUuid& folderID, const std::function<void()>& ended) 
         finished(request.number);
         return ended();
     }
-    EngineSettings settings{.mayContinue = core_.unlessHurried()};
+    EngineSettings settings{.mayContinue =
+                                core_.unlessHurried([endsEarly = unfinished_.at(request.number)] {
+                                    return !*endsEarly;
+                                })};
     std::unique_ptr<FolderRestraint> restraint;
     if (request.cause == RunCause::automatic)
-        restraint = core_.memory.restraint(*folder);
+        restraint = core_.memory.restraint(*folder, core_.now());
     settings.restraint = restraint.get();
     const auto run = std::make_shared<Run>(
         Run{.folder = *folder,
@@ -114,6 +117,8 @@ void TidyRuns::takeIn(Run& run) {
     bool hasChanged = false;
     if (isKnown && !report.unlisted) {
         hasChanged = mergeKeys(run);
+        if (report.cause == RunCause::automatic)
+            std::erase_if(entries, [&](const LogEntry& entry) { return isLogged(entry); });
         const std::vector<LogEntry> stopped =
             core_.memory.absorb(run.folder, report.run, run.restraint.get(), core_.now());
         entries.insert(entries.end(), stopped.begin(), stopped.end());
@@ -130,6 +135,17 @@ void TidyRuns::takeIn(Run& run) {
             report.unsaved = saved.error();
     resolveQuestions();
     Q_EMIT core_.store.runFinished(report);
+}
+
+/// Tried again every hour, the same failure would in time push everything else out of the log.
+bool TidyRuns::isLogged(const LogEntry& entry) const {
+    return entry.isError && std::ranges::any_of(core_.state().logs, [&](const LogEntry& known) {
+               return known.isError && known.folderID == entry.folderID &&
+                      known.ruleName == entry.ruleName &&
+                      known.originalPath == entry.originalPath &&
+                      known.currentPath == entry.currentPath &&
+                      known.actionSummary == entry.actionSummary;
+           });
 }
 
 bool TidyRuns::mergeKeys(const Run& run) {
@@ -153,7 +169,7 @@ bool TidyRuns::mergeKeys(const Run& run) {
         hasChanged = hasChanged || keys.size() != merged;
     }
     if (hasChanged)
-        all.insert(name, std::move(keys));
+        all.insert(name, keys);
     return hasChanged;
 }
 
@@ -182,7 +198,7 @@ void TidyRuns::retryLater(const Run& run) {
 
 void TidyRuns::finished(std::uint64_t number) {
     unfinished_.erase(number);
-    const std::uint64_t oldest = unfinished_.empty() ? lastNumber_ + 1 : *unfinished_.begin();
+    const std::uint64_t oldest = unfinished_.empty() ? lastNumber_ + 1 : unfinished_.begin()->first;
     while (!afterwards_.empty() && afterwards_.begin()->first < oldest) {
         const std::function<void()> done = std::move(afterwards_.begin()->second);
         afterwards_.erase(afterwards_.begin());
@@ -191,9 +207,15 @@ void TidyRuns::finished(std::uint64_t number) {
 }
 
 void TidyRuns::afterRuns(std::uint64_t number, std::function<void()> done) {
-    if (unfinished_.empty() || *unfinished_.begin() > number)
+    if (unfinished_.empty() || unfinished_.begin()->first > number)
         return done();
     afterwards_.emplace(number, std::move(done));
+}
+
+void TidyRuns::endEarly(std::uint64_t first, std::uint64_t last) {
+    for (const auto& [number, endsEarly] : unfinished_)
+        if (number >= first && number <= last)
+            *endsEarly = true;
 }
 
 bool TidyRuns::isUnsettled(const QUuid& folderID) const {

@@ -4,9 +4,9 @@
 #include "store/SettleRetries.h"
 #include "store/StoreCore.h"
 
+#include <atomic>
 #include <functional>
 #include <map>
-#include <set>
 
 namespace quillon {
 
@@ -21,6 +21,7 @@ public:
     std::uint64_t request(const QUuid& folderID, RunCause cause);
     [[nodiscard]] std::uint64_t lastNumber() const { return lastNumber_; }
     void afterRuns(std::uint64_t number, std::function<void()> done);
+    void endEarly(std::uint64_t first, std::uint64_t last);
 
     [[nodiscard]] SettleRetries& retries() { return retries_; }
 
@@ -40,6 +41,7 @@ private:
 
     void start(const QUuid& folderID, const std::function<void()>& ended);
     void takeIn(Run& run);
+    [[nodiscard]] bool isLogged(const LogEntry& entry) const;
     [[nodiscard]] bool mergeKeys(const Run& run);
     void notify(const Run& run) const;
     void retryLater(const Run& run);
@@ -52,7 +54,8 @@ private:
     std::uint64_t lastNumber_ = 0;
     std::map<QUuid, Request> waiting_; ///< one a folder that has not begun
     std::set<QUuid> running_;
-    std::set<std::uint64_t> unfinished_;
+    /// By number, and whether it is to end after the file that it is at.
+    std::map<std::uint64_t, std::shared_ptr<std::atomic<bool>>> unfinished_;
     std::multimap<std::uint64_t, std::function<void()>> afterwards_;
     bool asksQuestions_ = false;
     bool isResolving_ = false;

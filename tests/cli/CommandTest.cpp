@@ -68,7 +68,7 @@ const UsageCase usageCases[] = {
     {{"tidy", "@in", "--rules", "@rules.json", "--settle", "3s"}, ExitCode::usage, "“3s”"},
     {{"tidy", "@in", "--rules"}, ExitCode::usage, "--rules takes one value and is given once"},
     {{"log", "--limit", "0"}, ExitCode::usage, "“0” is not a number of entries"},
-    {{"undo"}, ExitCode::usage, "Give one of ENTRY, --batch ID and --last"},
+    {{"undo"}, ExitCode::usage, "Give one of ENTRY, --batch ID, --last and --since TIME"},
     {{"undo", "--last", "--batch", "ABCD"}, ExitCode::usage, "Give one of"},
 
     {{"tidy", "@none", "--rules", "@rules.json"}, ExitCode::unreadable, "No such file"},

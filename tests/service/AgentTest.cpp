@@ -61,6 +61,16 @@ TEST_F(Agent, filesWhatIsDroppedAndKeepsItsLogThroughStopsAndKills) {
     EXPECT_EQ(agent_.stop(), 0);
 }
 
+TEST_F(Agent, saysThatAFolderIsGone) {
+    home_.makeFolder("in");
+    const QString in = QString::fromStdString(home_.path("in"));
+    ASSERT_TRUE(agent_.start()) << agent_.said();
+    EXPECT_EQ(agent_.command({u"folder"_s, u"add"_s, in, u"--timing"_s, u"manual"_s}).code, 0);
+    fs::remove(home_.path("in"));
+    EXPECT_THAT(agent_.command({u"status"_s}).out, HasSubstr("not found"));
+    EXPECT_EQ(agent_.stop(), 0);
+}
+
 TEST_F(Agent, thatIsHungIsGivenUp) {
     ASSERT_TRUE(agent_.start()) << agent_.said();
     ::kill(pid_t(agent_.processId()), SIGSTOP);

@@ -148,13 +148,32 @@ TEST(AppStore, needsAttentionForADayAfterAnErrorAndWhileAFolderIsAway) {
     EXPECT_FALSE(bench.store->needsAttention());
 
     std::filesystem::remove_all(bench.disk.machine.at("in"));
-    bench.store->refreshAccess();
+    bench.store->runRules(folderID);
     bench.background.finish();
     EXPECT_EQ(bench.store->folderAccess().value(folderID), FolderAccess::missing);
     EXPECT_TRUE(bench.store->needsAttention());
     bench.store->removeFolder(folderID);
     EXPECT_FALSE(bench.store->needsAttention());
     EXPECT_EQ(changes, 4);
+}
+
+TEST(AppStore, endsTheRunsEarlyThatItIsToldOf) {
+    AppStoreBench bench;
+    const QUuid unwanted = bench.addFolder("in");
+    const QUuid wanted = bench.addFolder("too");
+    bench.addRule(bench.mover(u"pdf"_s, "out"), unwanted);
+    bench.addRule(bench.mover(u"pdf"_s, "out"), wanted);
+    bench.disk.machine.write("in/a.pdf", "a");
+    bench.disk.machine.write("too/b.pdf", "b");
+    const std::uint64_t number = bench.store->runRules(unwanted, RunCause::asked);
+    bench.store->runRules(wanted, RunCause::asked);
+    bench.store->endRunsEarly(number, number);
+    bench.background.finish();
+    EXPECT_TRUE(bench.disk.machine.tree().contains("in/a.pdf"));
+    EXPECT_TRUE(bench.disk.machine.tree().contains("out/b.pdf"));
+    bench.store->runRules(unwanted, RunCause::asked);
+    bench.background.finish();
+    EXPECT_TRUE(bench.disk.machine.tree().contains("out/a.pdf"));
 }
 
 TEST(AppStore, writesNothingAsAPreview) {

@@ -50,7 +50,7 @@ protected:
 private:
     bool runs(const WatchedFolder& folder, const QString& before, const QString& after,
               std::size_t rule, const QStringList& copies, bool isAutomatic) {
-        const auto restraint = isAutomatic ? memory_.restraint(folder) : nullptr;
+        const auto restraint = isAutomatic ? memory_.restraint(folder, now_) : nullptr;
         const bool may = !restraint || restraint->mayAct(folder.rules[rule], before);
         RunResult run;
         run.seenKeys = {before};
@@ -159,7 +159,7 @@ TEST_F(RunMemoryTest, ForgetsOnlyFilesThatAreSurelyGone) {
     absorb(home, young, nullptr);
 
     const auto isRemembered = [&](int i) {
-        return !memory_.restraint(home)->mayAct(home.rules[0], name(i));
+        return !memory_.restraint(home, now_)->mayAct(home.rules[0], name(i));
     };
     RunResult later;
     later.seenKeys = {name(1)};

@@ -113,6 +113,31 @@ TEST(TidyRuns, tellOfWhatTheyFiled) {
     }
 }
 
+TEST(TidyRuns, tryWhatFailedAgainEveryHourAndLogItOnce) {
+    LiveFolder live;
+    live.disk.machine.write("in/a.pdf", "a");
+    live.disk.machine.write("out", "no folder");
+    const auto tries = [&] {
+        const auto before = live.disk.machine.tree();
+        live.reports.clear();
+        live.run();
+        EXPECT_EQ(live.disk.machine.tree(), before);
+        return live.reports.front().run.failed.size();
+    };
+    EXPECT_EQ(tries(), 1U);
+    EXPECT_EQ(tries(), 0U);
+    live.pass(60min);
+    EXPECT_EQ(tries(), 1U);
+    EXPECT_EQ(live.store->recentLogs().size(), 1U);
+    live.run(RunCause::asked);
+    EXPECT_EQ(live.store->recentLogs().size(), 2U) << "whoever asks is told";
+
+    std::filesystem::remove(live.disk.machine.at("out"));
+    live.pass(60min);
+    live.run();
+    EXPECT_TRUE(live.has("out/a.pdf"));
+}
+
 TEST(TidyRuns, keepTheNewestEntriesInTheLog) {
     LiveFolder live;
     for (int i = 0; i < 500; ++i)

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <thread>
 
 namespace quillon::testing {
@@ -29,7 +30,8 @@ RunningAgent::RunningAgent(QString program, std::string home)
     fs::create_directories(home_ + "/run");
     fs::permissions(home_ + "/run", fs::perms::owner_all);
     process_.setProcessEnvironment(environment());
-    process_.setProcessChannelMode(QProcess::SeparateChannels);
+    // A pipe that nobody empties would hold it up once it is full.
+    process_.setStandardErrorFile(QString::fromStdString(log()), QIODevice::Append);
 }
 
 RunningAgent::~RunningAgent() {
@@ -95,10 +97,10 @@ ProcessFigures RunningAgent::figures() const {
     return figures;
 }
 
-std::string RunningAgent::said() {
-    process_.waitForReadyRead(0);
-    said_ += process_.readAllStandardError().toStdString();
-    return said_;
+std::string RunningAgent::said() const {
+    std::ostringstream text;
+    text << std::ifstream(log()).rdbuf();
+    return text.str();
 }
 
 bool comesTrue(const std::function<bool()>& condition, std::chrono::milliseconds patience) {

@@ -46,15 +46,15 @@ public:
     [[nodiscard]] ProcessFigures figures() const;
     [[nodiscard]] qint64 processId() const { return process_.processId(); }
     /// What it has said on standard error.
-    [[nodiscard]] std::string said();
+    [[nodiscard]] std::string said() const;
 
 private:
     [[nodiscard]] QProcessEnvironment environment() const;
+    [[nodiscard]] std::string log() const { return home_ + "/agent.log"; }
 
     QString program_;
     std::string home_;
     QProcess process_;
-    std::string said_;
 };
 
 /// Whether the condition comes true within the patience; looks every few milliseconds.
