@@ -4,10 +4,12 @@
 #include "support/RunningAgent.h"
 #include "support/ScratchFolder.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <gmock/gmock.h>
 
+#include <array>
 #include <filesystem>
 #include <iostream>
 #include <map>
@@ -63,7 +65,7 @@ private:
         for (const QString& block : blocks) {
             const QString id = u'f' + block.section(u']', 0, 0);
             const QString name = block.section(u"name: "_s, 1).section(u'\n', 0, 0);
-            const QString text = block.section(u"text: "_s, 1).section(u'\n', 0, 0);
+            const QString text = block.section(u"\ntext: "_s, 1).section(u'\n', 0, 0);
             ++asked_[(isNaming ? "name " : "verdict ") + name.toStdString()];
             said.append(
                 isNaming ? QJsonObject{{u"id"_s, id},
@@ -112,6 +114,15 @@ Rule lettersNamed() {
 }
 
 class DobbinAgent : public ::testing::Test {
+    static inline std::array<char, 5> name_{"test"};
+    static inline std::array<char*, 2> arguments_{name_.data(), nullptr};
+    static inline int count_ = 1;
+    /// The server's event loop wants one.
+    std::unique_ptr<QCoreApplication> application_ =
+        QCoreApplication::instance()
+            ? nullptr
+            : std::make_unique<QCoreApplication>(count_, arguments_.data());
+
 protected:
     ScratchFolder home_;
     ModelServer server_;
@@ -131,7 +142,7 @@ protected:
         fs::rename(path, home_.path("in/" + name));
     }
     bool appears(const std::string& name) {
-        return comesTrue([&] { return home_.has(name); }, 60s);
+        return comesTrue([&] { return home_.has(name); }, 20s);
     }
 };
 
@@ -160,7 +171,7 @@ TEST_F(DobbinAgent, filesWhatTheModelSaysAsksNothingTwiceAndLosesNothing) {
     mustRun({u"rule"_s, u"import"_s, rules, u"--folder"_s, in_});
 
     for (const std::string& place : places)
-        EXPECT_TRUE(appears(place)) << place << '\n' << agent_.said();
+        ASSERT_TRUE(appears(place)) << place << '\n' << agent_.said();
     EXPECT_THAT(clerk_.verdictBatches(), ElementsAre(24, 6));
     mustRun({u"run"_s, u"--wait"_s, in_});
     EXPECT_EQ(clerk_.asked(), once);
@@ -184,8 +195,11 @@ TEST_F(DobbinAgent, filesWhatTheModelSaysAsksNothingTwiceAndLosesNothing) {
     EXPECT_EQ(home_.read("in/receipt late.csv"), "paid");
     clerk_.setSilent(false);
     ASSERT_TRUE(agent_.start()) << agent_.said();
+    EXPECT_TRUE(
+        comesTrue([&] { return agent_.said().find("started, 1 ") != std::string::npos; }, 20s));
     drop("receipt later.csv", "paid");
-    EXPECT_TRUE(appears("Receipts/receipt late.csv"));
+    mustRun({u"run"_s, in_});
+    ASSERT_TRUE(appears("Receipts/receipt late.csv")) << agent_.said();
     EXPECT_TRUE(appears("Receipts/receipt later.csv"));
     EXPECT_EQ(clerk_.asked()["verdict receipt late.csv"], 2);
 
