@@ -142,7 +142,7 @@ protected:
         fs::rename(path, home_.path("in/" + name));
     }
     bool appears(const std::string& name) {
-        return comesTrue([&] { return home_.has(name); }, 20s);
+        return comesTrue([&] { return home_.has(name); }, 60s);
     }
 };
 
