@@ -11,8 +11,8 @@ FolderRestraint::FolderRestraint(const WatchedFolder& folder, Known known)
 }
 
 bool FolderRestraint::hasActed(const Rule& rule, const QString& fileKey) const {
-    const auto known = rules_.constFind(rule.id);
-    return known != rules_.constEnd() && deeds_.contains(stableHash(fileKey), *known);
+    const auto hash = rules_.constFind(rule.id);
+    return hash != rules_.constEnd() && known_.deeds.contains(stableHash(fileKey), *hash);
 }
 
 bool FolderRestraint::mayAct(const Rule& rule, const QString& fileKey) {
