@@ -76,7 +76,7 @@ TEST(AIManager, AsksTheLocalModelAsItsServerWantsToBeAsked) {
         {u"stream"_s, false},
         {u"think"_s, false},
         {u"truncate"_s, false},
-        {u"options"_s, QJsonObject{{u"temperature"_s, 0.2}}},
+        {u"options"_s, QJsonObject{{u"temperature"_s, 0.2}, {u"num_ctx"_s, 8192}}},
         {u"format"_s, QJsonDocument::fromJson(schema).object()},
         {u"messages"_s,
          QJsonArray{

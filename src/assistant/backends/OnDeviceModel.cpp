@@ -22,6 +22,8 @@ using State = LocalModelState::Kind;
 constexpr int accepted = 200;
 constexpr int notNow = 503;
 constexpr double temperature = 0.2;
+// In tokens. Two dozen files with what is in them, and the answer: more than servers allow unasked.
+constexpr int contextLength = 8192;
 constexpr int mostDetail = 1000; // characters of what a server says about an error
 
 std::unexpected<AIError> aiFailure(AIError::Kind kind, const QString& detail = {}) {
@@ -56,10 +58,13 @@ QByteArray chatBody(const QString& model, const AIRequest& request) {
         QJsonObject{{u"role"_s, u"system"_s}, {u"content"_s, system}},
         QJsonObject{{u"role"_s, u"user"_s},
                     {u"content"_s, OnDeviceModel::flatten(request.messages)}}};
-    const QJsonObject body{
-        {u"model"_s, model},    {u"messages"_s, messages},
-        {u"stream"_s, false},   {u"think"_s, false},
-        {u"truncate"_s, false}, {u"options"_s, QJsonObject{{u"temperature"_s, temperature}}}};
+    const QJsonObject body{{u"model"_s, model},
+                           {u"messages"_s, messages},
+                           {u"stream"_s, false},
+                           {u"think"_s, false},
+                           {u"truncate"_s, false},
+                           {u"options"_s, QJsonObject{{u"temperature"_s, temperature},
+                                                      {u"num_ctx"_s, contextLength}}}};
     return request.schema ? withRawEntry(body, "format", *request.schema) : compact(body);
 }
 
