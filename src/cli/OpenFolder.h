@@ -25,8 +25,8 @@ openFolder(const std::string& path, const Console& console, Services& services);
 [[nodiscard]] std::expected<WatchedFolder, ExitCode>
 viewFolder(const std::string& path, const Console& console, Services& services);
 
-/// Makes a change that sets off runs and waits for them. Prints the sentences and what the runs did,
-/// or, as JSON, only these.
+/// Makes a change that sets off runs and waits for them. Prints the sentences and what the runs
+/// did, or, as JSON, only these.
 [[nodiscard]] ExitCode changeAndRun(const StoreAccess& store,
                                     const std::function<void(AppStore&)>& change,
                                     const QStringList& sentences, bool json,

@@ -37,7 +37,8 @@ Command defineRun(CLI::App& parser) {
     const auto options = std::make_shared<RunOptions>();
     parser.add_option("DIR", options->folders, "Watched folders; all of them unless given")
         ->type_name("");
-    parser.add_flag("--wait", options->waits, "Stay until files that still change are tidied too, and Dobbin has answered");
+    parser.add_flag("--wait", options->waits,
+                    "Stay until files that still change are tidied too, and Dobbin has answered");
     addJson(parser, options->json);
     return bound<runCommand>(options);
 }
