@@ -9,7 +9,7 @@
 #include <functional>
 #include <memory>
 
-namespace QKeychain {
+namespace QKeychain { // NOLINT(readability-identifier-naming): not ours
 class Job;
 }
 
