@@ -6,10 +6,14 @@
 #include "platform/linux/SystemError.h"
 #include "platform/linux/SystemStatus.h"
 
+#include <algorithm>
 #include <bit>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <span>
+#include <thread>
+#include <vector>
 
 namespace quillon {
 
@@ -17,6 +21,22 @@ namespace {
 
 bool isSpecialType(unsigned char type) {
     return type == DT_FIFO || type == DT_SOCK || type == DT_CHR || type == DT_BLK;
+}
+
+// Below this many files another thread costs more than it saves.
+constexpr std::size_t filesWorthAThread = 4096;
+
+/// Calls `work(from, to)` for shares of `count` things, side by side when there are many.
+template <typename Work>
+void inShares(std::size_t count, const Work& work) {
+    const std::size_t threads = std::clamp<std::size_t>(
+        count / filesWorthAThread, 1, std::max(1U, std::thread::hardware_concurrency()));
+    const std::size_t share = (count + threads - 1) / threads;
+    std::vector<std::jthread> others;
+    for (std::size_t from = share; from < count; from += share) {
+        others.emplace_back(work, from, std::min(from + share, count));
+    }
+    work(0, std::min(share, count));
 }
 
 class Walk {
@@ -50,43 +70,67 @@ private:
         if (!reader) {
             return std::unexpected(reader.error());
         }
+        const std::size_t first = listing_.files.size();
         while (const dirent* const entry = reader->next()) {
-            const int error = takeEntry(reader->folder(), folder, *entry);
-            const bool isClosed =
-                error == EACCES && ::faccessat(reader->folder(), ".", X_OK, AT_EACCESS) != 0;
-            if (isClosed) {
-                return systemFailure(error);
-            }
+            takeEntry(folder, *entry);
+        }
+        if (Expected<void> looked = lookAtAll(reader->folder(), folder, first); !looked) {
+            return looked;
         }
         return reader->error() == 0 ? Expected<void>{} : systemFailure(reader->error());
     }
 
-    /// Returns the errno value of the look at the entry, 0 when it was not needed. An entry that
-    /// can't be looked at (it has just gone) is left out.
-    int takeEntry(int folder, const std::string& folderPath, const dirent& entry) {
+    void takeEntry(const std::string& folderPath, const dirent& entry) {
         const std::string_view name = entry.d_name;
         if (name.front() == '.' || isSpecialType(entry.d_type)) {
-            return 0;
+            return;
         }
         if (!isValidUtf8(name)) {
             ++listing_.skippedNames;
-            return 0;
-        }
-        if (options_.recursive && entry.d_type == DT_DIR) {
+        } else if (options_.recursive && entry.d_type == DT_DIR) {
             enter(folderPath, name);
-            return 0;
+        } else {
+            listing_.files.push_back({joinPath(folderPath, name), {}});
         }
-        struct statx found;
-        if (const int error = lookAt(folder, entry.d_name, found); error != 0) {
-            return error;
+    }
+
+    /// Fills in the status of the files from `first` on. One that can't be looked at (it has just
+    /// gone) is left out.
+    [[nodiscard]] Expected<void> lookAtAll(int folder, const std::string& folderPath,
+                                           std::size_t first) {
+        const std::span<ListedFile> files = std::span(listing_.files).subspan(first);
+        const std::size_t nameStart = folderPath.empty() ? 0 : folderPath.size() + 1;
+        std::vector<int> errors(files.size());
+        inShares(files.size(), [&](std::size_t from, std::size_t to) {
+            for (std::size_t i = from; i < to; ++i) {
+                struct statx found;
+                errors[i] = lookAt(folder, files[i].path.c_str() + nameStart, found);
+                if (errors[i] == 0) {
+                    files[i].status = toFileStatus(found);
+                }
+            }
+        });
+        if (std::ranges::find(errors, EACCES) != errors.end() &&
+            ::faccessat(folder, ".", X_OK, AT_EACCESS) != 0) {
+            return systemFailure(EACCES);
         }
-        const FileStatus status = toFileStatus(found);
-        if (options_.recursive && status.type == FileType::directory) {
-            enter(folderPath, name);
-        } else if (status.type != FileType::special) {
-            listing_.files.push_back({joinPath(folderPath, name), status});
+        std::size_t kept = first;
+        for (std::size_t i = 0; i < errors.size(); ++i) {
+            ListedFile& file = listing_.files[first + i];
+            if (errors[i] != 0) {
+                continue;
+            }
+            if (options_.recursive && file.status.type == FileType::directory) {
+                enter(folderPath, lastComponent(file.path));
+            } else if (file.status.type != FileType::special) {
+                if (kept != first + i) {
+                    listing_.files[kept] = std::move(file);
+                }
+                ++kept;
+            }
         }
-        return 0;
+        listing_.files.resize(kept);
+        return {};
     }
 
     void enter(const std::string& folderPath, std::string_view name) {
