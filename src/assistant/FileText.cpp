@@ -37,8 +37,8 @@ QString isoDate(Timestamp moment) {
 
 } // namespace
 
-FileText::FileText(const Platform& platform, TextReader& reader, QLocale locale)
-    : platform_(platform), reader_(reader), locale_(std::move(locale)) {}
+FileText::FileText(const Platform& platform, TextReader& reader, const QLocale& locale)
+    : platform_(platform), reader_(reader), locale_(locale) {}
 
 QString FileText::describe(const std::string& path, bool readContents) const {
     const QString name = nameOf(path);

@@ -17,7 +17,7 @@ namespace quillon {
 class FileText {
 public:
     /// Borrows both. Dates in texts are read as people of that locale write them.
-    FileText(const Platform& platform, TextReader& reader, QLocale locale = QLocale());
+    FileText(const Platform& platform, TextReader& reader, const QLocale& locale = QLocale());
 
     /// Lines with what is known of the file: its name and kind always; then its size, its date, and
     /// where it comes from. Only with `readContents` is it opened, for the beginning of its text
