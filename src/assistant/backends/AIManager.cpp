@@ -17,8 +17,9 @@ std::unexpected<Error> gone() {
 }
 
 template <typename T>
-Later<Expected<T>> fromKeychain(std::function<void(std::function<void(Expected<T>)>)> start) {
-    return {std::move(start), failure(ErrorKind::io, u"The keyring was let go"_s)};
+Later<Expected<T>>
+fromKeychain(const std::function<void(std::function<void(Expected<T>)>)>& start) {
+    return {start, failure(ErrorKind::io, u"The keyring was let go"_s)};
 }
 
 } // namespace

@@ -9,7 +9,7 @@
 #include <functional>
 #include <memory>
 
-namespace QKeychain { // NOLINT(readability-identifier-naming): not ours
+namespace QKeychain {
 class Job;
 }
 
