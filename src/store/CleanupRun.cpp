@@ -23,10 +23,10 @@ struct CleanupRun {
 } // namespace
 
 void startCleanup(StoreCore& core, AppStore::Cleanup cleanup,
-                  std::function<void(AppStore::CleanupReport)> done) {
+                  const std::function<void(AppStore::CleanupReport)>& done) {
     const auto run = std::make_shared<CleanupRun>();
     run->cleanup = std::move(cleanup);
-    const auto takeIn = [&core, run, done = std::move(done)](const std::function<void()>& ended) {
+    const auto takeIn = [&core, run, done](const std::function<void()>& ended) {
         core.addLogs(run->report.run.entries);
         run->journal.reset();
         if (!run->report.run.entries.empty())

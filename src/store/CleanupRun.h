@@ -6,6 +6,6 @@ namespace quillon {
 
 /// As AppStore::runCleanup. Borrows the core for as long as it takes.
 void startCleanup(StoreCore& core, AppStore::Cleanup cleanup,
-                  std::function<void(AppStore::CleanupReport)> done);
+                  const std::function<void(AppStore::CleanupReport)>& done);
 
 } // namespace quillon
