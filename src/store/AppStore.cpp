@@ -413,8 +413,8 @@ void AppStore::askQuestions() {
     state_->runs.askQuestions();
 }
 
-void AppStore::runCleanup(Cleanup cleanup, std::function<void(CleanupReport)> done) {
-    startCleanup(state_->core, std::move(cleanup), std::move(done));
+void AppStore::runCleanup(Cleanup cleanup, const std::function<void(CleanupReport)>& done) {
+    startCleanup(state_->core, std::move(cleanup), done);
 }
 
 void AppStore::undo(std::vector<QUuid> entryIDs, std::function<void(UndoReport)> done,

@@ -158,7 +158,7 @@ public:
         RunResult run;
         std::optional<Error> unsaved = {};
     };
-    void runCleanup(Cleanup cleanup, std::function<void(CleanupReport)> done);
+    void runCleanup(Cleanup cleanup, const std::function<void(CleanupReport)>& done);
 
     struct UndoReport {
         std::vector<UndoOutcome> outcomes;
