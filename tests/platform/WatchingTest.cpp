@@ -121,6 +121,7 @@ TEST_F(WatchingTest, tenFilesAreOneBatch) {
     for (int file = 0; file < 10; ++file)
         scratch.write("in/" + std::to_string(file), "");
     EXPECT_TRUE(each.waitForChange(0));
+    EXPECT_TRUE(told.waitForChange(0));
     EXPECT_EQ(told.changes(), 1) << "at once, and the rest later";
 }
 
