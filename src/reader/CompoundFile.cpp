@@ -88,7 +88,7 @@ std::vector<std::uint32_t> CompoundFile::tableSectors(QByteArrayView header) con
     while (list < lastSector && listed.size() < most) {
         auto numbers = numbersIn(partOf(
             sectors_.bytes, static_cast<std::uint64_t>(list) * sectors_.size, sectors_.size));
-        if (numbers.empty()) {
+        if (numbers.size() < 2) { // nothing but the number of a next one, perhaps its own
             break;
         }
         list = numbers.back();

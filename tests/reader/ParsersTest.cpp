@@ -4,6 +4,7 @@
 #include "support/PrintQt.h"
 
 #include <QFile>
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 namespace quillon::testing {
@@ -59,6 +60,13 @@ TEST(CompoundFileTest, EndsWhateverTheSectorsSay) {
             EXPECT_LE(other.value_or(QByteArray()).size(), good.size()) << at;
         }
     }
+    // Four bytes behind the last sector, listed as one more sector of the table, name themselves.
+    constexpr quint32 sectors = 200;
+    QByteArray knot = good.first(512).leftJustified(512 * (1 + sectors), '\xff');
+    qToLittleEndian(sectors, knot.data() + 68);
+    knot.append(4, '\0');
+    qToLittleEndian(sectors, knot.data() + 512 * (1 + sectors));
+    EXPECT_EQ(CompoundFile::open(knot)->stream(u"Other"), std::nullopt);
 }
 
 TEST(OcrLanguagesTest, PrefersTheUsersAndEnglish) {
