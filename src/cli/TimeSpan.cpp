@@ -2,6 +2,8 @@
 
 #include <QDateTime>
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,6 +37,14 @@ std::optional<QDateTime> momentOf(const QString& text, const QDate& today) {
     return words.size() == 2 ? QDateTime(*day, *time) : day->startOfDay();
 }
 
+/// A timestamp reaches from 1677 to 2262 alone.
+Timestamp nearestTimestamp(const QDateTime& moment) {
+    using std::chrono::seconds;
+    constexpr auto first = std::chrono::ceil<seconds>(Timestamp::min()).time_since_epoch().count();
+    constexpr auto last = std::chrono::floor<seconds>(Timestamp::max()).time_since_epoch().count();
+    return Timestamp(seconds(std::clamp<qint64>(moment.toSecsSinceEpoch(), first, last)));
+}
+
 Chosen<std::optional<Timestamp>> moment(const std::string& given, const QDate& today) {
     if (given.empty())
         return std::nullopt;
@@ -44,7 +54,7 @@ Chosen<std::optional<Timestamp>> moment(const std::string& given, const QDate& t
         return refusal(ExitCode::usage,
                        u"“%1” is not a time; try “yesterday 18:00”, “today”, “22:30” or "
                        "“2026-03-31 08:00”"_s.arg(text));
-    return Timestamp(std::chrono::seconds(read->toSecsSinceEpoch()));
+    return nearestTimestamp(*read);
 }
 
 } // namespace

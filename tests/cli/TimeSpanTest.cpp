@@ -36,6 +36,7 @@ TEST(TimeSpan, readsDaysAndTimesWhereThisMachineIs) {
             EXPECT_FALSE(timeSpan("", text, now)->contains(*span->since)) << "before leaves it out";
         }
     }
+    EXPECT_TRUE(timeSpan("0001-01-01", "9999-12-31", now)->contains(now));
 }
 
 } // namespace
