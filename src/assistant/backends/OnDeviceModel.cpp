@@ -68,12 +68,14 @@ QByteArray chatBody(const QString& model, const AIRequest& request) {
     return request.schema ? withRawEntry(body, "format", *request.schema) : compact(body);
 }
 
-/// Servers differ in what they say, but all speak of the context when it is too small.
+/// Servers differ in what they say, but all speak of the context when it is too small; one that
+/// gave up waiting speaks of "context deadline exceeded".
 bool isAboutLength(const QString& said) {
     const auto says = [&](QLatin1StringView word) {
         return said.contains(word, Qt::CaseInsensitive);
     };
-    return says("context"_L1) && (says("exceed"_L1) || says("too long"_L1) || says("length"_L1));
+    return says("context"_L1) && !says("deadline"_L1) &&
+           (says("exceed"_L1) || says("too long"_L1) || says("length"_L1));
 }
 
 std::unexpected<AIError> serverError(int status, const QString& said) {
