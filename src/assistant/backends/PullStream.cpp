@@ -12,7 +12,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr qsizetype longestLine = 1 << 20;
-constexpr qsizetype longestReason = 300; // characters
+constexpr qsizetype longestReason = 300;        // characters
+constexpr qint64 largestPart = qint64(1) << 50; // so that no sum of what a server claims overflows
+constexpr qsizetype mostParts = 4096;
 
 } // namespace
 
@@ -42,11 +44,12 @@ Expected<void> PullStream::takeLine(const QByteArray& line) {
     if (document.object().contains(u"error"_s))
         return failure(ErrorKind::io, pullError(line));
     isComplete_ = document[u"status"].toString() == u"success";
-    const qint64 total = document[u"total"].toInteger();
-    if (total <= 0)
+    const qint64 total = std::min(document[u"total"].toInteger(), largestPart);
+    const QString digest = document[u"digest"].toString();
+    if (total <= 0 || (parts_.size() >= mostParts && !parts_.contains(digest)))
         return {};
     // A part never shrinks: the server starts to count anew when it tries one again.
-    PullProgress& part = parts_[document[u"digest"].toString()];
+    PullProgress& part = parts_[digest];
     part.total = total;
     part.done =
         std::max(part.done, std::clamp(document[u"completed"].toInteger(), qint64(0), total));

@@ -13,7 +13,9 @@ struct PullProgress {
     qint64 done = 0;
     qint64 total = 0; ///< bytes that are known of so far; 0 before any are
 
-    [[nodiscard]] int percent() const { return total > 0 ? int(100 * done / total) : 0; }
+    [[nodiscard]] int percent() const {
+        return total > 0 ? int(100.0 * double(done) / double(total)) : 0;
+    }
     bool operator==(const PullProgress&) const = default;
 };
 
