@@ -17,7 +17,4 @@ localModels(const Console& console, Services& services,
 /// The text of a setting that is in the table.
 [[nodiscard]] QString assistantSetting(Services& services, QStringView key);
 
-/// "2.0 GB"
-[[nodiscard]] QString sizeText(qint64 bytes);
-
 } // namespace quillon

@@ -1,7 +1,10 @@
+#include "assistant/ByteCount.h"
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
 #include "cli/LocalModelChoice.h"
 #include "cli/Verbs.h"
+
+#include <algorithm>
 
 namespace quillon {
 
@@ -70,7 +73,8 @@ void printText(const ModelLibrary& library, const Console& console) {
         lines.add(u"  "_s)
             .add(model.name, LineBuffer::Style::strong, names.columns())
             .add(u"  "_s)
-            .add(sizeText(model.bytes), LineBuffer::Style::faint);
+            .add(byteCount(std::uint64_t(std::max<qint64>(model.bytes, 0))),
+                 LineBuffer::Style::faint);
         if (model.isElsewhere)
             lines.add(u"  runs on another machine, and is not used"_s, LineBuffer::Style::bad);
         lines.endLine();

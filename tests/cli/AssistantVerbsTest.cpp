@@ -93,7 +93,7 @@ TEST_F(AssistantVerbs, tellOfTheLocalModelsAndChooseAmongThem) {
     server.haveModels({u"llama3.2:3b"_s, u"phi4:latest"_s, u"gpt-oss:120b-cloud"_s});
     const auto status = run("model status");
     EXPECT_THAT(status.out, AllOf(HasSubstr("The local model is ready: llama3.2:3b\n"),
-                                  HasSubstr("phi4:latest         2.0 GB\n"),
+                                  HasSubstr("phi4:latest         2.02 GB\n"),
                                   HasSubstr("runs on another machine")));
     const struct {
         const char* name;

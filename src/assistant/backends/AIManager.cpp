@@ -92,9 +92,7 @@ QCoro::Task<LocalModelState> AIManager::look() {
     LocalModelState state = co_await model.look(text(u"ai.localModel"));
     if (life.expired())
         co_return state;
-    using Kind = LocalModelState::Kind;
-    if (download_ && (state.kind == Kind::noModel || state.kind == Kind::notInstalled))
-        state = {.kind = Kind::downloading, .name = state.name, .percent = *download_};
+    state = whileDownloading(std::move(state), download_);
     const OnDeviceStatus status = statusOf(state);
     if (status != status_) {
         status_ = status;

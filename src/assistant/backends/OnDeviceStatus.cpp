@@ -58,4 +58,13 @@ OnDeviceStatus statusOf(const LocalModelState& state) {
     return {.kind = row.kind, .message = message};
 }
 
+LocalModelState whileDownloading(LocalModelState state, std::optional<int> percent) {
+    using Kind = LocalModelState::Kind;
+    if (percent && (state.kind == Kind::noModel || state.kind == Kind::notInstalled)) {
+        state.kind = Kind::downloading;
+        state.percent = *percent;
+    }
+    return state;
+}
+
 } // namespace quillon

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 namespace quillon {
 
@@ -56,5 +57,8 @@ struct LocalModelState {
 };
 
 [[nodiscard]] OnDeviceStatus statusOf(const LocalModelState& state);
+
+/// The same while this process downloads a model: one that is missing is on its way.
+[[nodiscard]] LocalModelState whileDownloading(LocalModelState state, std::optional<int> percent);
 
 } // namespace quillon
