@@ -19,12 +19,15 @@ namespace {
 /// The path under which a folder is watched. A refusal says why it can't be.
 Chosen<QString> watchablePath(const std::string& given, const Console& console,
                               const FileSystem& fileSystem) {
-    const QString name = u"The folder %1 can't be watched: %2"_s.arg(pathText(given));
+    const auto refused = [&](const QString& why) {
+        return refusal(ExitCode::unreadable,
+                       u"The folder %1 can't be watched: %2"_s.arg(pathText(given), why));
+    };
     const std::string path = fileSystem.resolved(absolutePath(given, console));
     if (!isValidUtf8(path))
-        return refusal(ExitCode::unreadable, name.arg(u"its path is not valid UTF-8"_s));
+        return refused(u"its path is not valid UTF-8"_s);
     if (const auto listing = fileSystem.list(path, {}); !listing)
-        return refusal(ExitCode::unreadable, name.arg(listing.error().message));
+        return refused(listing.error().message);
     return pathText(path);
 }
 
@@ -44,18 +47,26 @@ void apply(const FolderSettings& settings, const QUuid& id, AppStore& store) {
         store.setTiming(*settings.timing, id);
 }
 
-Chosen<std::vector<WatchedFolder>> watchedFoldersAt(const std::vector<std::string>& paths,
-                                                    const StoreAccess& store,
-                                                    const Console& console, Services& services) {
-    const auto folders = store.call([](AppStore& appStore) { return appStore.folders(); });
-    std::vector<WatchedFolder> found;
+struct OpenFolders {
+    StoreAccess store;
+    std::vector<WatchedFolder> folders;
+};
+
+/// Says why when the store can't be opened or one of the folders is not watched.
+std::expected<OpenFolders, ExitCode> openFolders(const std::vector<std::string>& paths,
+                                                 const Console& console, Services& services) {
+    const auto store = openStoreFor(console, services);
+    if (!store)
+        return std::unexpected(store.error());
+    const auto watched = store->call([](AppStore& appStore) { return appStore.folders(); });
+    OpenFolders open{.store = *store, .folders = {}};
     for (const std::string& path : paths) {
-        auto folder = watchedFolderAt(path, folders, console, services);
+        auto folder = watchedFolderAt(path, watched, console, services);
         if (!folder)
-            return std::unexpected(folder.error());
-        found.push_back(std::move(*folder));
+            return std::unexpected(sayRefusal(folder.error(), console));
+        open.folders.push_back(std::move(*folder));
     }
-    return found;
+    return open;
 }
 
 } // namespace
@@ -107,38 +118,32 @@ ExitCode folderAddCommand(const WatchedFolderOptions& options, const Console& co
 
 ExitCode folderRemoveCommand(const WatchedFolderOptions& options, const Console& console,
                              Services& services) {
-    const auto store = openStoreFor(console, services);
-    if (!store)
-        return store.error();
-    const auto folders = watchedFoldersAt(options.folders, *store, console, services);
-    if (!folders)
-        return sayRefusal(folders.error(), console);
-    store->call([&](AppStore& appStore) {
-        for (const WatchedFolder& folder : *folders)
+    const auto open = openFolders(options.folders, console, services);
+    if (!open)
+        return open.error();
+    open->store.call([&](AppStore& appStore) {
+        for (const WatchedFolder& folder : open->folders)
             appStore.removeFolder(folder.id);
     });
     LineBuffer lines(console.out, console.colored);
-    for (const WatchedFolder& folder : *folders)
+    for (const WatchedFolder& folder : open->folders)
         lines.add(u"%1 is not watched any more; its files stay as they are."_s.arg(folder.path))
             .endLine();
-    return sayWhetherSaved(*store, console);
+    return sayWhetherSaved(open->store, console);
 }
 
 ExitCode folderSetCommand(const WatchedFolderOptions& options, const Console& console,
                           Services& services) {
-    const auto store = openStoreFor(console, services);
-    if (!store)
-        return store.error();
-    const auto folders = watchedFoldersAt(options.folders, *store, console, services);
-    if (!folders)
-        return sayRefusal(folders.error(), console);
+    const auto open = openFolders(options.folders, console, services);
+    if (!open)
+        return open.error();
     QStringList sentences;
-    for (const WatchedFolder& folder : *folders)
+    for (const WatchedFolder& folder : open->folders)
         sentences.append(u"%1 is changed."_s.arg(folder.path));
     return changeAndRun(
-        *store,
+        open->store,
         [&](AppStore& appStore) {
-            for (const WatchedFolder& folder : *folders)
+            for (const WatchedFolder& folder : open->folders)
                 apply(options.settings, folder.id, appStore);
         },
         sentences, options.json, console);

@@ -49,6 +49,16 @@ changeEach(const RuleOptions& options, const Console& console, Services& service
     return sayWhetherSaved(open->store, console);
 }
 
+ExitCode switchEach(bool isOn, const RuleOptions& options, const Console& console,
+                    Services& services) {
+    return changeEach(
+        options, console, services,
+        [isOn](AppStore& store, const QUuid& rule, const QUuid& folder) {
+            store.setRuleEnabled(isOn, rule, folder);
+        },
+        isOn ? u"“%1” is on."_s : u"“%1” is off."_s);
+}
+
 std::size_t positionOf(const std::vector<Rule>& rules, const QUuid& ruleID) {
     return std::size_t(std::ranges::find(rules, ruleID, &Rule::id) - rules.begin()) + 1;
 }
@@ -100,22 +110,12 @@ ExitCode ruleRemoveCommand(const RuleOptions& options, const Console& console, S
 }
 
 ExitCode ruleEnableCommand(const RuleOptions& options, const Console& console, Services& services) {
-    return changeEach(
-        options, console, services,
-        [](AppStore& store, const QUuid& rule, const QUuid& folder) {
-            store.setRuleEnabled(true, rule, folder);
-        },
-        u"“%1” is on."_s);
+    return switchEach(true, options, console, services);
 }
 
 ExitCode ruleDisableCommand(const RuleOptions& options, const Console& console,
                             Services& services) {
-    return changeEach(
-        options, console, services,
-        [](AppStore& store, const QUuid& rule, const QUuid& folder) {
-            store.setRuleEnabled(false, rule, folder);
-        },
-        u"“%1” is off."_s);
+    return switchEach(false, options, console, services);
 }
 
 ExitCode ruleDuplicateCommand(const RuleOptions& options, const Console& console,
