@@ -127,21 +127,4 @@ AppStore::UndoReport StoreAccess::undo(std::vector<QUuid> entryIDs, Progress pro
     return result;
 }
 
-AppStore::UndoReport StoreAccess::undoCleanup(const QUuid& batchID, Progress progress,
-                                              std::function<bool()> mayContinue) const {
-    Signal finished;
-    AppStore::UndoReport result;
-    onStoreThread([&] {
-        store_->undoCleanup(
-            batchID,
-            [&](AppStore::UndoReport report) {
-                result = std::move(report);
-                finished.raise();
-            },
-            std::move(progress), std::move(mayContinue));
-    });
-    finished.wait();
-    return result;
-}
-
 } // namespace quillon

@@ -46,8 +46,6 @@ public:
     [[nodiscard]] AppStore::CleanupReport runCleanup(AppStore::Cleanup cleanup) const;
     [[nodiscard]] AppStore::UndoReport undo(std::vector<QUuid> entryIDs, Progress progress,
                                             std::function<bool()> mayContinue) const;
-    [[nodiscard]] AppStore::UndoReport undoCleanup(const QUuid& batchID, Progress progress,
-                                                   std::function<bool()> mayContinue) const;
 
 private:
     void onStoreThread(const std::function<void()>& work) const;
