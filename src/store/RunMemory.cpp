@@ -87,6 +87,22 @@ std::vector<LogEntry> RunMemory::absorb(const WatchedFolder& folder, const RunRe
     return entries;
 }
 
+void RunMemory::leaveAlone(const std::vector<ActedOn>& files,
+                           const std::vector<WatchedFolder>& folders, Timestamp now) {
+    QHash<QUuid, RunResult> results;
+    for (const ActedOn& file : files)
+        for (const WatchedFolder& folder : folders)
+            if (folder.id == file.folderID)
+                for (const Rule& rule : folder.rules)
+                    if (rule.name == file.ruleName)
+                        results[folder.id].handled.push_back({.ruleID = rule.id,
+                                                              .keyBefore = file.fileKey,
+                                                              .keyAfter = file.fileKey});
+    for (const WatchedFolder& folder : folders)
+        if (const auto found = results.constFind(folder.id); found != results.constEnd())
+            std::ignore = absorb(folder, *found, nullptr, now);
+}
+
 void RunMemory::stopRing(const WatchedFolder& folder, const Rule& rule, const RingParty& party,
                          const QString& fileKey, Timestamp now, std::vector<LogEntry>& entries) {
     const std::uint64_t file = stableHash(fileKey);

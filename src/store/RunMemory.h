@@ -11,10 +11,14 @@
 #include <QHash>
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
 namespace quillon {
+
+/// The size of the file that encode() fills, at most.
+inline constexpr std::uint64_t largestMemory = 1ULL << 30;
 
 /// What automatic runs must not do again: a rule leaves a file alone once it has acted on it, until
 /// the file or the rule changes, and for an hour when it failed; and rules that hand a file round
@@ -32,6 +36,17 @@ public:
     /// folders. Later runs leave such a file alone without a word.
     [[nodiscard]] std::vector<LogEntry> absorb(const WatchedFolder& folder, const RunResult& run,
                                                const FolderRestraint* restraint, Timestamp now);
+
+    /// A file as it is now, with the rule of a folder, by its name, that has acted on it.
+    struct ActedOn {
+        QUuid folderID;
+        QString ruleName;
+        QString fileKey;
+    };
+    /// Keeps automatic runs of these rules from acting on these files again. `folders` are those
+    /// that are watched.
+    void leaveAlone(const std::vector<ActedOn>& files, const std::vector<WatchedFolder>& folders,
+                    Timestamp now);
 
     /// To be told the watched folders at the start and whenever they change: files are followed
     /// from one of them to another, and what is remembered of any other is dropped.

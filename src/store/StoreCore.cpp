@@ -4,11 +4,6 @@
 #include "store/FolderList.h"
 
 namespace quillon {
-namespace {
-
-constexpr std::uint64_t largestMemory = 1ULL << 30;
-
-} // namespace
 
 StoreCore::StoreCore(AppStore& owner, std::unique_ptr<StoreSession> opened,
                      const AppStore::Surroundings& surroundings)

@@ -1,5 +1,7 @@
 #include "store/StoreSession.h"
 
+#include "engine/RuleEngine.h"
+#include "store/RunMemory.h"
 #include "store/Sentences.h"
 
 namespace quillon {
@@ -85,6 +87,7 @@ void StoreSession::takeIn(const JournalContents& journal) {
     std::vector<LogEntry> entries =
         recoveredEntries(journal, state_.logs, services_.fileSystem, services_.trashPlaces);
     const std::size_t found = entries.size();
+    remember(entries);
     state_.addLogs(std::move(entries));
     if (found > 0)
         warnings_.append(
@@ -102,6 +105,29 @@ void StoreSession::takeIn(const JournalContents& journal) {
         for (const std::string& folder : touchedFolders(journal))
             // A folder that is away keeps what is in it; hidden leftovers harm nobody.
             std::ignore = services_.storage.removeTemporaries(folder, journal.temporaryTag);
+}
+
+/// What the run that was interrupted had done is not to be done again by the next one.
+void StoreSession::remember(const std::vector<LogEntry>& entries) {
+    std::vector<RunMemory::ActedOn> files;
+    for (const LogEntry& entry : entries) {
+        if (entry.isError || !entry.folderID || !entry.currentPath)
+            continue;
+        const std::string path = entry.currentPath->toStdString();
+        if (const auto status = services_.fileSystem.status(path))
+            files.push_back({.folderID = *entry.folderID,
+                             .ruleName = entry.ruleName,
+                             .fileKey = fileKey(path, *status)});
+    }
+    const auto bytes = services_.storage.readWhole(places_.memory(), largestMemory);
+    if (files.empty() || (!bytes && bytes.error().kind != ErrorKind::notFound))
+        return;
+    RunMemory memory;
+    memory.decode(bytes.value_or(QByteArray()));
+    memory.keepOnly(state_.folders);
+    memory.leaveAlone(files, state_.folders, services_.clock.now());
+    // Without it a rule acts once more, which is no reason to keep the store closed.
+    std::ignore = services_.storage.writeDurably(places_.memory(), memory.encode());
 }
 
 Expected<void> StoreSession::rewriteAtLaunch() {

@@ -53,6 +53,7 @@ private:
     [[nodiscard]] Expected<void> recover();
     [[nodiscard]] Expected<void> takeHistory();
     void takeIn(const JournalContents& journal);
+    void remember(const std::vector<LogEntry>& entries);
 
     Services services_;
     StorePlaces places_;

@@ -50,22 +50,18 @@ std::vector<LogEntry> chosen(const std::vector<LogEntry>& logs, const std::vecto
 
 /// What has been taken back is where its rule found it. That rule must not act on it at once again.
 void leaveAlone(StoreCore& core, const UndoRun& run) {
-    QHash<QUuid, RunResult> handled;
+    std::vector<RunMemory::ActedOn> files;
     for (const UndoOutcome& outcome : run.report.outcomes) {
         const LogEntry& entry = outcome.entry;
         const WatchedFolder* const folder = entry.folderID ? core.folder(*entry.folderID) : nullptr;
         const QString key = run.keys.value(entry.id);
         if (!folder || key.isEmpty())
             continue;
-        for (const Rule& rule : folder->rules)
-            if (rule.name == entry.ruleName)
-                handled[folder->id].handled.push_back(
-                    {.ruleID = rule.id, .keyBefore = key, .keyAfter = key});
+        files.push_back({.folderID = folder->id, .ruleName = entry.ruleName, .fileKey = key});
         if (folder->onlyNewFiles)
             core.state().processedFiles[uuidText(folder->id)].insert(key);
     }
-    for (auto it = handled.cbegin(); it != handled.cend(); ++it)
-        std::ignore = core.memory.absorb(*core.folder(it.key()), *it, nullptr, core.now());
+    core.memory.leaveAlone(files, core.state().folders, core.now());
 }
 
 void takeIn(StoreCore& core, UndoRun& run) {
