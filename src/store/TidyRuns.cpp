@@ -1,6 +1,7 @@
 #include "store/TidyRuns.h"
 
 #include "model/Uuid.h"
+#include "store/Attention.h"
 #include "store/SettingsTable.h"
 
 #include <algorithm>
@@ -13,6 +14,13 @@ namespace {
 
 // Past that many a folder's keys are cut down to those of files that are there.
 constexpr qsizetype pruneThreshold = 8000;
+
+bool isSameFailure(const LogEntry& one, const LogEntry& other) {
+    return one.isError && other.isError && !one.undoable && !other.undoable &&
+           one.folderID == other.folderID && one.ruleName == other.ruleName &&
+           one.originalPath == other.originalPath && one.currentPath == other.currentPath &&
+           one.actionSummary == other.actionSummary;
+}
 
 } // namespace
 
@@ -118,7 +126,7 @@ void TidyRuns::takeIn(Run& run) {
     if (isKnown && !report.unlisted) {
         hasChanged = mergeKeys(run);
         if (report.cause == RunCause::automatic)
-            std::erase_if(entries, [&](const LogEntry& entry) { return isLogged(entry); });
+            dropRepeated(report.run);
         const std::vector<LogEntry> stopped =
             core_.memory.absorb(run.folder, report.run, run.restraint.get(), core_.now());
         entries.insert(entries.end(), stopped.begin(), stopped.end());
@@ -130,22 +138,34 @@ void TidyRuns::takeIn(Run& run) {
     notify(run);
     if (isKnown)
         retryLater(run);
-    if (hasChanged || !entries.empty())
+    if (hasChanged || !entries.empty() || core_.session->journal().awaitsSave())
         if (const auto saved = core_.save(); !saved)
             report.unsaved = saved.error();
     resolveQuestions();
     Q_EMIT core_.store.runFinished(report);
 }
 
-/// Tried again every hour, the same failure would in time push everything else out of the log.
-bool TidyRuns::isLogged(const LogEntry& entry) const {
-    return entry.isError && std::ranges::any_of(core_.state().logs, [&](const LogEntry& known) {
-               return known.isError && known.folderID == entry.folderID &&
-                      known.ruleName == entry.ruleName &&
-                      known.originalPath == entry.originalPath &&
-                      known.currentPath == entry.currentPath &&
-                      known.actionSummary == entry.actionSummary;
-           });
+/// Tried again every hour, the same failure would in time push everything else out of the log: it
+/// is told once a day, and the newest stays. What has been done to a file is always told.
+void TidyRuns::dropRepeated(RunResult& run) {
+    QSet<QString> untouched;
+    for (const FailedFile& file : run.failed)
+        untouched.insert(keyPath(file.key));
+    if (untouched.isEmpty())
+        return;
+    std::vector<LogEntry>& logs = core_.state().logs;
+    const Timestamp now = core_.now();
+    std::erase_if(run.entries, [&](const LogEntry& entry) {
+        if (!untouched.contains(entry.originalPath.value_or(QString())))
+            return false;
+        const auto isOfToday = [&](const LogEntry& known) {
+            return isSameFailure(known, entry) && isRecentError(known, now);
+        };
+        if (std::ranges::any_of(logs, isOfToday))
+            return true;
+        std::erase_if(logs, [&](const LogEntry& known) { return isSameFailure(known, entry); });
+        return false;
+    });
 }
 
 bool TidyRuns::mergeKeys(const Run& run) {

@@ -41,7 +41,7 @@ private:
 
     void start(const QUuid& folderID, const std::function<void()>& ended);
     void takeIn(Run& run);
-    [[nodiscard]] bool isLogged(const LogEntry& entry) const;
+    void dropRepeated(RunResult& run);
     [[nodiscard]] bool mergeKeys(const Run& run);
     void notify(const Run& run) const;
     void retryLater(const Run& run);

@@ -29,6 +29,11 @@ Expected<void> UndoJournal::markSaved() {
     return mark();
 }
 
+bool UndoJournal::awaitsSave() {
+    const std::lock_guard guard(lock_);
+    return !ended_.isEmpty();
+}
+
 Expected<void> UndoJournal::mark() {
     if (open_.isEmpty() && ended_.isEmpty()) {
         if (auto cleared = file_->clear(); !cleared)

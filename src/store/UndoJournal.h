@@ -37,6 +37,9 @@ public:
     /// it has succeeded, no further intents are taken.
     [[nodiscard]] Expected<void> markSaved();
 
+    /// Whether runs have ended that no save has marked: until one does, the journal only grows.
+    [[nodiscard]] bool awaitsSave();
+
 private:
     friend class JournalledRun;
 

@@ -1,5 +1,6 @@
 #include "model/Uuid.h"
 #include "store/EventLoopTimers.h"
+#include "store/JournalFormat.h"
 #include "store/ThreadBackground.h"
 #include "support/AppStoreBench.h"
 #include "support/PrintQt.h"
@@ -113,7 +114,7 @@ TEST(TidyRuns, tellOfWhatTheyFiled) {
     }
 }
 
-TEST(TidyRuns, tryWhatFailedAgainEveryHourAndLogItOnce) {
+TEST(TidyRuns, tryWhatFailedAgainEveryHourAndLogItOnceADay) {
     LiveFolder live;
     live.disk.machine.write("in/a.pdf", "a");
     live.disk.machine.write("out", "no folder");
@@ -129,6 +130,10 @@ TEST(TidyRuns, tryWhatFailedAgainEveryHourAndLogItOnce) {
     live.pass(60min);
     EXPECT_EQ(tries(), 1U);
     EXPECT_EQ(live.store->recentLogs().size(), 1U);
+    live.pass(24h);
+    EXPECT_EQ(tries(), 1U);
+    ASSERT_EQ(live.store->recentLogs().size(), 1U);
+    EXPECT_EQ(live.store->recentLogs().front().date, live.clock.now());
     live.run(RunCause::asked);
     EXPECT_EQ(live.store->recentLogs().size(), 2U) << "whoever asks is told";
 
@@ -164,6 +169,42 @@ TEST(TidyRuns, writeNothingWhenNothingHappens) {
     live.run();
     EXPECT_FALSE(std::filesystem::exists(live.disk.places.state()));
     EXPECT_EQ(live.disk.machine.contents(live.disk.places.journal()), "");
+}
+
+TEST(TidyRuns, leaveNothingInTheJournalWhereTheirRulesFindNothingToDo) {
+    LiveFolder live;
+    Rule rule = live.mover(u"txt"_s, "out");
+    rule.actions.front().type = ActionType::rename;
+    live.disk.machine.write("in/a.txt", "a");
+    live.addRule(rule, live.folderID);
+    live.run();
+    EXPECT_EQ(live.disk.machine.contents(live.disk.places.journal()), "");
+}
+
+TEST(TidyRuns, leaveAloneWhatAKilledRunHadDone) {
+    LiveFolder live;
+    Rule rule = live.mover(u"txt"_s, "out");
+    rule.actions.front().type = ActionType::rename;
+    rule.actions.front().renamePattern = u"x-{name}"_s;
+    live.addRule(rule, live.folderID);
+    live.store.reset();
+
+    live.disk.machine.write("in/x-a.txt", "a");
+    Intent intent = live.disk.intentFor("in/x-a.txt", {});
+    intent.entry.originalPath = live.path("in/a.txt");
+    intent.entry.ruleName = rule.name;
+    intent.entry.folderID = live.folderID;
+    const QUuid killed = QUuid::createUuid();
+    JsonStream json;
+    writeIntent(json, killed, intent, false);
+    intent.entry.undoable = true;
+    writeOutcome(json, killed, intent.entry);
+    live.disk.machine.write(live.disk.places.journal(), json.take().toStdString());
+    live.start();
+    live.run();
+    EXPECT_TRUE(live.has("in/x-a.txt"));
+    live.run(RunCause::asked);
+    EXPECT_TRUE(live.has("in/x-x-a.txt")) << "whoever asks gets it";
 }
 
 TEST(TidyRuns, ofAFolderThatIsGoneOrRemovedFindNothing) {
