@@ -119,8 +119,10 @@ void StoreSession::remember(const std::vector<LogEntry>& entries) {
                              .ruleName = entry.ruleName,
                              .fileKey = fileKey(path, *status)});
     }
+    if (files.empty())
+        return;
     const auto bytes = services_.storage.readWhole(places_.memory(), largestMemory);
-    if (files.empty() || (!bytes && bytes.error().kind != ErrorKind::notFound))
+    if (!bytes && bytes.error().kind != ErrorKind::notFound)
         return;
     RunMemory memory;
     memory.decode(bytes.value_or(QByteArray()));
