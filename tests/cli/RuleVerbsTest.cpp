@@ -20,10 +20,7 @@ struct Step {
 
 void play(const CommandBench& bench, const std::vector<Step>& steps) {
     for (const Step& step : steps) {
-        std::string line = "quillon";
-        for (const std::string& argument : step.arguments)
-            line += ' ' + argument;
-        SCOPED_TRACE(line);
+        SCOPED_TRACE(CommandBench::lineOf(step.arguments));
         const CommandBench::Result result = bench.run(step.arguments);
         EXPECT_EQ(result.code, step.code) << result.out << result.err;
         EXPECT_THAT(result.out + result.err, HasSubstr(step.said));

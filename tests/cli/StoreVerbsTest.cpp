@@ -4,7 +4,6 @@
 #include "support/PrintQt.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <gmock/gmock.h>
 
@@ -54,18 +53,7 @@ protected:
         return bench_.run(std::move(arguments));
     }
     QJsonDocument json(std::vector<std::string> arguments) {
-        arguments.emplace_back("--json");
-        const auto result = run(arguments);
-        const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(result.out));
-        EXPECT_FALSE(document.isNull()) << result.out << result.err;
-        return document;
-    }
-    /// Carries out the command line that a result ends with.
-    CommandBench::Result follow(const std::string& output, const std::string& before) {
-        const std::size_t start = output.rfind(before);
-        EXPECT_NE(start, std::string::npos) << output;
-        std::istringstream words(output.substr(start + before.size()));
-        return run({std::istream_iterator<std::string>(words), {}});
+        return bench_.json(std::move(arguments));
     }
 
     CommandBench bench_;
@@ -109,10 +97,7 @@ TEST_F(StoreVerbs, refuseInOneSentenceAndTouchNothing) {
     std::ignore = run({"undo", "--last"}); // makes the lock file and the journal
     const auto before = bench_.files();
     for (const Refused& c : refusals) {
-        std::string line = "quillon";
-        for (const std::string& argument : c.arguments)
-            line += ' ' + argument;
-        SCOPED_TRACE(line);
+        SCOPED_TRACE(CommandBench::lineOf(c.arguments));
         const auto result = run(c.arguments);
         EXPECT_EQ(result.code, c.code);
         EXPECT_THAT(result.err, HasSubstr(c.said));
@@ -163,7 +148,7 @@ TEST_F(StoreVerbs, cleanupShowsThenDoesThenUndoes) {
     const auto done = run(command);
     EXPECT_EQ(done.code, ExitCode::done);
     EXPECT_TRUE(fs::exists(bench_.at("other/Screenshots/Screenshot 1.png")));
-    EXPECT_EQ(follow(done.out, "Undo with: quillon ").code, ExitCode::done);
+    EXPECT_EQ(run(CommandBench::undoIn(done.out)).code, ExitCode::done);
     EXPECT_TRUE(fs::exists(bench_.at("other/Screenshot 1.png")));
 }
 

@@ -1,10 +1,10 @@
 #include "model/RuleFile.h"
+#include "support/EventLoopApplication.h"
 #include "support/ModelServer.h"
 #include "support/PrintQt.h"
 #include "support/RunningAgent.h"
 #include "support/ScratchFolder.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <gmock/gmock.h>
@@ -114,14 +114,7 @@ Rule lettersNamed() {
 }
 
 class DobbinAgent : public ::testing::Test {
-    static inline std::array<char, 5> name_{"test"};
-    static inline std::array<char*, 2> arguments_{name_.data(), nullptr};
-    static inline int count_ = 1;
-    /// The server's event loop wants one.
-    std::unique_ptr<QCoreApplication> application_ =
-        QCoreApplication::instance()
-            ? nullptr
-            : std::make_unique<QCoreApplication>(count_, arguments_.data());
+    EventLoopApplication application_; // for the server
 
 protected:
     ScratchFolder home_;

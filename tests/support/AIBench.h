@@ -1,15 +1,14 @@
 #pragma once
 
 #include "assistant/backends/AIManager.h"
+#include "support/EventLoopApplication.h"
 #include "support/FakeClock.h"
 #include "support/ModelServer.h"
 
-#include <QCoreApplication>
 #include <QCoroTask>
 #include <QHash>
 #include <QTimer>
 
-#include <array>
 #include <memory>
 
 namespace quillon::testing {
@@ -53,13 +52,7 @@ private:
 
 /// An AIManager whose backends are both played by one server.
 class AIBench {
-    std::array<char, 5> name_{"test"};
-    std::array<char*, 2> arguments_{name_.data(), nullptr};
-    int count_ = 1;
-    std::unique_ptr<QCoreApplication> application_ =
-        QCoreApplication::instance()
-            ? nullptr
-            : std::make_unique<QCoreApplication>(count_, arguments_.data());
+    EventLoopApplication application_;
 
 public:
     struct Texts final : Settings {

@@ -2,10 +2,13 @@
 
 #include "cli/CommandLine.h"
 
+#include <QJsonDocument>
 #include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -52,6 +55,35 @@ public:
                                   .config = at("config/Quillon")};
         const ExitCode code = runCommandLine(arguments, console, [&] { return folders; });
         return {code, out.str(), err.str()};
+    }
+
+    /// What a verb answers with --json.
+    [[nodiscard]] QJsonDocument json(std::vector<std::string> arguments) const {
+        arguments.emplace_back("--json");
+        const Result result = run(arguments);
+        const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(result.out));
+        EXPECT_FALSE(document.isNull()) << result.out << result.err;
+        return document;
+    }
+
+    /// The arguments of the undo that some output ends with.
+    [[nodiscard]] static std::vector<std::string> undoIn(const std::string& output) {
+        const std::string before = "Undo with: quillon ";
+        const std::size_t start = output.rfind(before);
+        if (start == std::string::npos) {
+            ADD_FAILURE() << output;
+            return {};
+        }
+        std::istringstream words(output.substr(start + before.size()));
+        return {std::istream_iterator<std::string>(words), {}};
+    }
+
+    /// As it is typed.
+    [[nodiscard]] static std::string lineOf(const std::vector<std::string>& arguments) {
+        std::string line = "quillon";
+        for (const std::string& argument : arguments)
+            line += ' ' + argument;
+        return line;
     }
 
     /// Every file in the home folder and what it holds.

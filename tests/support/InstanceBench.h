@@ -2,13 +2,12 @@
 
 #include "service/CommandClient.h"
 #include "service/CommandServer.h"
+#include "support/EventLoopApplication.h"
 #include "support/ScratchFolder.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <gtest/gtest.h>
 
-#include <array>
 #include <future>
 #include <sstream>
 #include <thread>
@@ -95,13 +94,7 @@ public:
     }
 
 private:
-    static inline std::array<char, 5> name_{"test"};
-    static inline std::array<char*, 2> arguments_{name_.data(), nullptr};
-    static inline int count_ = 1;
-    std::unique_ptr<QCoreApplication> application_ =
-        QCoreApplication::instance()
-            ? nullptr
-            : std::make_unique<QCoreApplication>(count_, arguments_.data());
+    EventLoopApplication application_;
 };
 
 } // namespace quillon::testing
