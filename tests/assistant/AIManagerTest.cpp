@@ -106,8 +106,6 @@ TEST(AIManager, StandsBadServers) {
     } rows[] = {
         {"slow", changed([](Answer& a) { a.delay = 150ms; }), u"Hay"_s},
         {"byte by byte", changed([](Answer& a) { a.chunk = 1; }), u"Hay"_s},
-        {"created", changed([](Answer& a) { a.status = 201; }),
-         u"Claude returned an error (201)."_s},
         {"much", changed([](Answer& a) { a.padding = mostReplyBytes - a.body.size(); }), u"Hay"_s},
         {"too much", changed([](Answer& a) { a.padding = 64 * mostReplyBytes; }), cutShort},
         {"cut off", changed([](Answer& a) { a.cutAfter = 20; }), u"Couldn't reach Claude: "_s},
@@ -121,7 +119,6 @@ TEST(AIManager, StandsBadServers) {
          u"Couldn't reach Claude: The request timed out."_s},
         {"hangs up", {.raw = ""}, u"Couldn't reach Claude: "_s},
         {"no protocol", {.raw = "250 OK, mail me\r\n\r\n"}, u"Couldn't reach Claude: "_s},
-        {"no JSON", {.body = "<html>"}, cutShort},
         {"repeats the key", ModelServer::claudeError(400, u"no sk-test-1234 here"_s),
          u"no … here"_s},
     };
