@@ -139,12 +139,14 @@ std::size_t RuleEngine::onlineOnlyCount(const WatchedFolder& folder) const {
     }));
 }
 
-QSet<QString> RuleEngine::currentKeys(const WatchedFolder& folder) const {
+Expected<QSet<QString>> RuleEngine::currentKeys(const WatchedFolder& folder) const {
+    const Expected<Listing> listing = files(folder);
+    if (!listing)
+        return std::unexpected(listing.error());
     QSet<QString> keys;
     const std::string path = folderPath(folder);
-    if (const auto listing = files(folder))
-        for (const ListedFile& file : listing->files)
-            keys.insert(fileKey(joinPath(path, file.path), file.status));
+    for (const ListedFile& file : listing->files)
+        keys.insert(fileKey(joinPath(path, file.path), file.status));
     return keys;
 }
 

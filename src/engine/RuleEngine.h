@@ -41,8 +41,8 @@ public:
     [[nodiscard]] Expected<ReadyFiles> readyFiles(const WatchedFolder& folder) const;
     /// Listed files that are only placeholders of a cloud provider.
     [[nodiscard]] std::size_t onlineOnlyCount(const WatchedFolder& folder) const;
-    /// The keys of every file in the folder now.
-    [[nodiscard]] QSet<QString> currentKeys(const WatchedFolder& folder) const;
+    /// The keys of every file in the folder now. Fails as files() does.
+    [[nodiscard]] Expected<QSet<QString>> currentKeys(const WatchedFolder& folder) const;
 
     [[nodiscard]] MatchProbe probe(const Rule& rule, const ReadyFiles& ready) const;
     [[nodiscard]] std::vector<PreviewItem> preview(const std::vector<Rule>& rules,

@@ -249,10 +249,12 @@ void AppStore::setSkipOnlineOnly(bool skip, const QUuid& folderID) {
 void AppStore::setOnlyNewFiles(bool onlyNew, const QUuid& folderID) {
     update(folderID, [&](WatchedFolder& folder) {
         folder.onlyNewFiles = onlyNew;
-        // Listed here and now: while it was done in the background, what arrives would be old.
-        if (onlyNew)
-            state_->core.state().processedFiles.insert(
-                uuidText(folderID), state_->core.around.makeEngine({}).currentKeys(folder));
+        if (!onlyNew)
+            return;
+        // Listed here and now: while it was done in the background, what arrives would be old. Of a
+        // folder that is away, what earlier runs have seen there still counts.
+        if (const auto keys = state_->core.around.makeEngine({}).currentKeys(folder))
+            state_->core.state().processedFiles.insert(uuidText(folderID), *keys);
     });
 }
 

@@ -125,6 +125,13 @@ TEST(AppStore, leavesWhatWasThereAloneInFoldersForNewFiles) {
     bench.background.finish();
     EXPECT_EQ(bench.runs([&] { bench.store->runRules(folderID); }), 1U);
     EXPECT_TRUE(bench.disk.machine.tree().contains("in/new.pdf"));
+
+    std::filesystem::rename(bench.disk.machine.at("in"), bench.disk.machine.at("away"));
+    bench.store->setOnlyNewFiles(true, folderID);
+    std::filesystem::rename(bench.disk.machine.at("away"), bench.disk.machine.at("in"));
+    bench.store->runRules(folderID, RunCause::asked);
+    bench.background.finish();
+    EXPECT_TRUE(bench.disk.machine.tree().contains("in/old.pdf"));
 }
 
 TEST(AppStore, needsAttentionForADayAfterAnErrorAndWhileAFolderIsAway) {
