@@ -29,7 +29,7 @@ void startCleanup(StoreCore& core, AppStore::Cleanup cleanup,
     const auto takeIn = [&core, run, done](const std::function<void()>& ended) {
         core.addLogs(run->report.run.entries);
         run->journal.reset();
-        if (!run->report.run.entries.empty())
+        if (!run->report.run.entries.empty() || core.session->journal().awaitsSave())
             if (const auto saved = core.save(); !saved)
                 run->report.unsaved = saved.error();
         done(std::move(run->report));

@@ -243,21 +243,27 @@ std::vector<LogEntry> recoveredEntries(const JournalContents& journal,
     return entries;
 }
 
-std::size_t dropTakenBack(const JournalContents& journal, std::vector<LogEntry>& logs,
-                          const FileSystem& fileSystem) {
+std::vector<LogEntry> dropTakenBack(const JournalContents& journal, std::vector<LogEntry>& logs,
+                                    const FileSystem& fileSystem) {
     Finder finder(fileSystem, journal);
     const auto none = [](const FileStatus&) { return false; };
-    std::size_t dropped = 0;
+    std::vector<LogEntry> dropped;
     for (const JournalledFile& file : journal.files) {
         const Intent& intent = file.intent;
         const auto logged = std::ranges::find(logs, intent.entry.id, &LogEntry::id);
         if (!file.isUndo || logged == logs.end())
             continue;
         const QString place = logged->currentPath.value_or(logged->trashedPath.value_or(QString()));
-        const bool isThere = !file.hasOutcome && finder.stands(place.toStdString(), intent);
-        if (file.hasOutcome || (!isThere && finder.find(intent.targetFolders, intent))) {
+        std::optional<QString> back;
+        if (file.hasOutcome)
+            back = intent.entry.currentPath.value_or(QString());
+        else if (!finder.stands(place.toStdString(), intent))
+            if (const auto found = finder.find(intent.targetFolders, intent))
+                back = pathText(*found);
+        if (back) {
+            logged->currentPath = std::move(back);
+            dropped.push_back(std::move(*logged));
             logs.erase(logged);
-            ++dropped;
         } else if (const auto copy = finder.findCopy(intent.targetFolders, intent, none); copy) {
             addPhrase(*logged, u"undoing was interrupted: a copy is at %1"_s.arg(pathText(*copy)));
         }

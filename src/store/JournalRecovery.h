@@ -25,11 +25,12 @@ using TrashPlaces = std::function<std::vector<std::string>(const std::string& fo
                                                      const FileSystem& fileSystem,
                                                      const TrashPlaces& trashPlaces);
 
-/// Drops the entries that an interrupted undo had taken back already, and returns how many: those
-/// whose files are no longer where the entry says, but back. Where a copy was made and the file is
-/// still in its place, the entry says so.
-std::size_t dropTakenBack(const JournalContents& journal, std::vector<LogEntry>& logs,
-                          const FileSystem& fileSystem);
+/// Drops the entries that an interrupted undo had taken back already, those whose files are no
+/// longer where the entry says, but back; and returns them, with `currentPath` the place where each
+/// file is now. Where a copy was made and the file is still in its place, the entry says so.
+[[nodiscard]] std::vector<LogEntry> dropTakenBack(const JournalContents& journal,
+                                                  std::vector<LogEntry>& logs,
+                                                  const FileSystem& fileSystem);
 
 /// The folders in which the run may have left hidden temporaries.
 [[nodiscard]] std::set<std::string> touchedFolders(const JournalContents& journal);

@@ -97,17 +97,21 @@ void StoreSession::takeIn(const JournalContents& journal) {
         warnings_.append(
             u"The log keeps %1 entries, so undo does not reach %2 of these files"_s.arg(
                 QString::number(logCap), QString::number(found - logCap)));
-    if (const std::size_t back = dropTakenBack(journal, state_.logs, services_.fileSystem))
+    const std::vector<LogEntry> takenBack =
+        dropTakenBack(journal, state_.logs, services_.fileSystem);
+    remember(takenBack);
+    if (!takenBack.empty())
         warnings_.append(
             u"An earlier undo was interrupted; %1 that it had put back is no longer in the "
-            "activity log"_s.arg(counted(back, u"file"_s)));
+            "activity log"_s.arg(counted(takenBack.size(), u"file"_s)));
     if (!journal.temporaryTag.empty())
         for (const std::string& folder : touchedFolders(journal))
             // A folder that is away keeps what is in it; hidden leftovers harm nobody.
             std::ignore = services_.storage.removeTemporaries(folder, journal.temporaryTag);
 }
 
-/// What the run that was interrupted had done is not to be done again by the next one.
+/// What was interrupted had done with these files what was wanted: no rule is to act on them again
+/// by itself.
 void StoreSession::remember(const std::vector<LogEntry>& entries) {
     std::vector<RunMemory::ActedOn> files;
     for (const LogEntry& entry : entries) {

@@ -76,7 +76,7 @@ void takeIn(StoreCore& core, UndoRun& run) {
         Q_EMIT core.store.recentLogsChanged();
     }
     run.journal.reset();
-    if (!undone.isEmpty())
+    if (!undone.isEmpty() || core.session->journal().awaitsSave())
         if (const auto saved = core.save(); !saved)
             run.report.unsaved = saved.error();
 }

@@ -122,7 +122,11 @@ private:
     }
 
     /// A child that printed too much may go on printing; it is not waited for.
-    [[nodiscard]] bool awaitEnd() { return printed_.size() > mostPrinted || await(ended_.get()); }
+    /// A child whose end can't be watched isn't either: being at its end, it printed all that it
+    /// had.
+    [[nodiscard]] bool awaitEnd() {
+        return printed_.size() > mostPrinted || !ended_.isOpen() || await(ended_.get());
+    }
 
     /// Until something happens there, or the deadline, at which it is false.
     [[nodiscard]] bool await(int descriptor) const {
