@@ -231,6 +231,16 @@ TEST(AIManager, SaysWhyThereIsNoLocalModel) {
     EXPECT_TRUE(server.requests("/api/chat").isEmpty()) << "nothing was told to any of them";
 }
 
+TEST(AIManager, TellsSomebodyWithAKeyOfTheirKeyring) {
+    AIBench bench;
+    bench.useClaude();
+    bench.keychain.refusal = Error{ErrorKind::locked, u"The keyring is locked"_s};
+    EXPECT_EQ(bench.ask(), u"The keyring is locked"_s);
+    bench.server.haveModels({u"llama3.2:latest"_s});
+    bench.server.play("/api/chat", ModelServer::chatAnswer(u"Hay"_s));
+    EXPECT_EQ(bench.ask(), u"Hay"_s);
+}
+
 TEST(AIManager, SavesAKeyOnlyWhenItIsGood) {
     AIBench bench;
     AIManager& manager = *bench.manager;

@@ -41,14 +41,21 @@ AIManager::~AIManager() {
 
 QCoro::Task<Expected<QString>> AIManager::send(AIRequest request) {
     const std::weak_ptr<const void> life = life_;
+    std::optional<Error> keyTrouble;
     if (useClaude() && apiKey_.isEmpty()) {
-        (void)co_await loadKey(); // without a key it is the other backend's turn
+        const Expected<void> loaded = co_await loadKey();
         if (life.expired())
             co_return gone();
+        if (!loaded && loaded.error().kind != ErrorKind::notFound)
+            keyTrouble = loaded.error();
     }
     if (useClaude() && !apiKey_.isEmpty())
         co_return co_await askClaude(std::move(request));
-    co_return co_await askOnDevice(std::move(request));
+    Expected<QString> answer = co_await askOnDevice(std::move(request));
+    // Somebody who keeps a key isn't to be told to install a model.
+    if (keyTrouble && !life.expired() && status_.kind != OnDeviceStatus::Kind::available)
+        co_return std::unexpected(*keyTrouble);
+    co_return answer;
 }
 
 QCoro::Task<Expected<QString>> AIManager::askClaude(AIRequest request) {

@@ -48,7 +48,8 @@ public:
               QObject* parent = nullptr);
     ~AIManager() override;
 
-    /// Loads the key first where Claude is to be asked and it isn't in memory.
+    /// Loads the key first where Claude is to be asked and it isn't in memory. Where it can't be
+    /// read and there is no model on this machine either, the failure is that of the keychain.
     [[nodiscard]] QCoro::Task<Expected<QString>> send(AIRequest request) override;
 
     [[nodiscard]] bool suggestRules() const;
