@@ -1,8 +1,8 @@
 #include "cli/AddedRules.h"
 
+#include "cli/UnknownWord.h"
 #include "engine/RuleChecks.h"
 #include "engine/RuleSummary.h"
-#include "model/NearestWord.h"
 #include "model/RulePresets.h"
 #include "store/RuleEdits.h"
 
@@ -33,8 +33,7 @@ Chosen<Rule> presetRule(const std::string& title) {
             return preset.rule;
         titles.push_back(preset.title.toStdString());
     }
-    return refusal(ExitCode::usage, u"“%1” is not a ready-made rule; the nearest is “%2”"_s.arg(
-                                        text, QString::fromStdString(nearestWord(title, titles))));
+    return unknownWord(title, "a ready-made rule", titles);
 }
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 #include "cli/CleanupPlan.h"
 
 #include "cli/NamedFolder.h"
-#include "model/NearestWord.h"
+#include "cli/UnknownWord.h"
 #include "platform/FileNames.h"
 #include "store/Sentences.h"
 
@@ -22,8 +22,7 @@ Chosen<CleanupRecipe> recipeNamed(const std::string& id,
     std::vector<std::string> ids;
     for (const CleanupRecipe& recipe : recipes)
         ids.push_back(recipe.id.toStdString());
-    return refusal(ExitCode::usage, u"“%1” is not a recipe; the nearest is “%2”"_s.arg(
-                                        text, QString::fromStdString(nearestWord(id, ids))));
+    return unknownWord(id, "a recipe", ids);
 }
 
 Chosen<void> chooseRecipes(const CleanupOptions& options, CleanupPlan& plan) {

@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include "cli/SyntaxParts.h"
 #include "cli/VerbTable.h"
 #include "model/NearestWord.h"
 #include "service/CommandClient.h"
@@ -23,8 +24,7 @@ Answer wrong(const std::string& what, const std::string& command) {
 
 Answer unknownVerb(const std::string& word, const std::string& noun) {
     const std::string place = noun.empty() ? "a command" : "a command of quillon " + noun;
-    return wrong("“" + word + "” is not " + place + "; the nearest is “" +
-                     nearestWord(word, wordsBelow(noun)) + "”",
+    return wrong(notAmong(word, place, wordsBelow(noun)),
                  noun.empty() ? "quillon" : "quillon " + noun);
 }
 

@@ -1,4 +1,5 @@
 #include "cli/NamedFolder.h"
+#include "cli/NewFile.h"
 #include "cli/StoreFailure.h"
 #include "cli/Verbs.h"
 #include "platform/FileNames.h"
@@ -13,20 +14,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Where the report goes: a folder gets it under its usual name. What is there already stays.
-Chosen<std::string> placeFor(const std::string& given, const Console& console,
-                             const FileSystem& fileSystem) {
+/// Where the report goes: a folder gets it under its usual name.
+std::string placeFor(const std::string& given, const Console& console,
+                     const FileSystem& fileSystem) {
     std::string path = absolutePath(given, console);
-    auto status = fileSystem.status(path);
-    if (status && status->type == FileType::directory) {
-        path = joinPath(path, diagnosticsFileName.toUtf8().toStdString());
-        status = fileSystem.status(path);
-    }
-    if (status)
-        return refusal(ExitCode::someFailed,
-                       u"%1 is there already, and nothing is overwritten; give another name"_s.arg(
-                           pathText(path)));
-    return path;
+    const auto status = fileSystem.status(path);
+    const bool isFolder = status && status->type == FileType::directory;
+    return isFolder ? joinPath(path, diagnosticsFileName.toUtf8().toStdString()) : path;
 }
 
 } // namespace
@@ -47,15 +41,11 @@ ExitCode diagnosticsCommand(const DiagnosticsOptions& options, const Console& co
         console.out.write(bytes.constData(), bytes.size());
         return ExitCode::done;
     }
-    const auto path = placeFor(options.output, console, services.platform().fileSystem);
-    if (!path)
-        return sayRefusal(path.error(), console);
-    if (const auto written = services.storage().writeDurably(*path, bytes); !written) {
-        console.say(u"The report can't be written to %1: %2"_s.arg(pathText(*path),
-                                                                   written.error().message));
-        return ExitCode::someFailed;
-    }
-    console.say(u"The report is in %1"_s.arg(pathText(*path)));
+    const std::string path = placeFor(options.output, console, services.platform().fileSystem);
+    const auto written = writeNewFile(path, bytes, u"The report"_s, pathText(path), services);
+    if (!written)
+        return sayRefusal(written.error(), console);
+    console.say(u"The report is in %1"_s.arg(pathText(path)));
     return ExitCode::done;
 }
 

@@ -29,37 +29,30 @@ Chosen<Rule> ruleInWords(const RuleAddOptions& options, const QString& folder) {
     return rule;
 }
 
-/// From whichever of the three ways was chosen.
-Chosen<std::vector<Rule>> rulesToAdd(const RuleAddOptions& options, const QString& folder,
-                                     const Console& console, Services& services) {
-    std::vector<Rule> rules;
-    if (!options.file.empty()) {
-        auto read = readRules(options.file, console, services);
-        if (!read)
-            return refusal(ExitCode::unreadable, read.error().message);
-        rules = std::move(*read);
-    } else {
-        const auto rule =
-            options.preset.empty() ? ruleInWords(options, folder) : presetRule(options.preset);
-        if (!rule)
-            return std::unexpected(rule.error());
-        rules.push_back(*rule);
-    }
-    if (options.isOff)
-        for (Rule& rule : rules)
-            rule.isEnabled = false;
-    return rules;
-}
-
 } // namespace
 
 ExitCode ruleAddCommand(const RuleAddOptions& options, const Console& console, Services& services) {
+    // Before the store is opened, which keeps others from it: a pipe may be slow.
+    Expected<std::vector<Rule>> rules;
+    if (!options.file.empty())
+        rules = readRules(options.file, console, services);
+    if (!rules) {
+        console.say(rules.error());
+        return ExitCode::unreadable;
+    }
     const auto open = openFolder(options.folder, console, services);
     if (!open)
         return open.error();
-    auto rules = rulesToAdd(options, open->folder.path, console, services);
-    if (!rules)
-        return sayRefusal(rules.error(), console);
+    if (options.file.empty()) {
+        const auto rule = options.preset.empty() ? ruleInWords(options, open->folder.path)
+                                                 : presetRule(options.preset);
+        if (!rule)
+            return sayRefusal(rule.error(), console);
+        rules->push_back(*rule);
+    }
+    if (options.isOff)
+        for (Rule& rule : *rules)
+            rule.isEnabled = false;
     return addRulesAndRun(*open, std::move(*rules),
                           options.preset.empty() ? RuleSource::manual : RuleSource::preset,
                           options.json, console);

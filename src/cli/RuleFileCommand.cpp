@@ -1,6 +1,7 @@
 #include "cli/AddedRules.h"
 #include "cli/Inputs.h"
 #include "cli/NamedFolder.h"
+#include "cli/NewFile.h"
 #include "cli/Verbs.h"
 #include "model/RuleFile.h"
 #include "store/Sentences.h"
@@ -34,17 +35,11 @@ ExitCode ruleExportCommand(const RuleFileOptions& options, const Console& consol
         console.out.write(bytes.constData(), bytes.size());
         return ExitCode::done;
     }
-    const std::string path = absolutePath(options.file, console);
     const QString name = pathText(options.file);
-    if (services.platform().fileSystem.status(path)) {
-        console.say(
-            u"%1 is there already, and nothing is overwritten; give another name"_s.arg(name));
-        return ExitCode::someFailed;
-    }
-    if (const auto written = services.storage().writeDurably(path, bytes); !written) {
-        console.say(u"The rules can't be written to %1: %2"_s.arg(name, written.error().message));
-        return ExitCode::someFailed;
-    }
+    const auto written =
+        writeNewFile(absolutePath(options.file, console), bytes, u"The rules"_s, name, services);
+    if (!written)
+        return sayRefusal(written.error(), console);
     console.say(
         u"%1 of %2 in %3"_s.arg(counted(folder->rules.size(), u"rule"_s), folder->name(), name));
     return ExitCode::done;

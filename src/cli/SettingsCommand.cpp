@@ -1,8 +1,8 @@
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
 #include "cli/Refusal.h"
+#include "cli/UnknownWord.h"
 #include "cli/Verbs.h"
-#include "model/NearestWord.h"
 #include "store/SettingsTable.h"
 
 namespace quillon {
@@ -24,8 +24,7 @@ Chosen<const Setting*> settingNamed(const std::string& given) {
     for (const Setting& known : settingsTable())
         if (known.isShown)
             keys.push_back(keyOf(known).toStdString());
-    return refusal(ExitCode::usage, u"“%1” is not a setting; the nearest is “%2”"_s.arg(
-                                        key, QString::fromStdString(nearestWord(given, keys))));
+    return unknownWord(given, "a setting", keys);
 }
 
 void writeValue(JsonStream& json, SettingType type, QStringView value) {

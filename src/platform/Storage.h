@@ -47,6 +47,11 @@ public:
     [[nodiscard]] virtual Expected<void> writeDurably(const std::string& path,
                                                       const QByteArray& bytes) = 0;
 
+    /// As writeDurably, but never replaces anything: `alreadyExists` when there is something at
+    /// `path`, be it a link that leads nowhere.
+    [[nodiscard]] virtual Expected<void> writeNewDurably(const std::string& path,
+                                                         const QByteArray& bytes) = 0;
+
     /// Opens for appending, making the file (0600) where there is none.
     [[nodiscard]] virtual Expected<std::unique_ptr<AppendFile>>
     openAppend(const std::string& path) = 0;

@@ -6,6 +6,8 @@ namespace {
 /// More callers wait in the system's queue until one of these has ended.
 constexpr std::size_t mostSessions = 32;
 constexpr std::chrono::seconds beatPeriod{1};
+/// Before a caller who couldn't be taken is tried again.
+constexpr std::chrono::seconds callPause{1};
 /// How long a command that is to end may take to say so before its connection is cut.
 constexpr std::chrono::seconds endGrace{2};
 
@@ -26,6 +28,9 @@ CommandServer::CommandServer(const Options& options, CommandRunner run, LocalLis
     , listener_(std::move(listener))
     , calls_(listener_->descriptor(), QSocketNotifier::Read) {
     connect(&calls_, &QSocketNotifier::activated, this, &CommandServer::takeCalls);
+    pause_.setInterval(callPause);
+    pause_.setSingleShot(true);
+    connect(&pause_, &QTimer::timeout, this, &CommandServer::resume);
     beat_.setInterval(beatPeriod);
     connect(&beat_, &QTimer::timeout, this, [this] {
         for (Session& session : sessions_)
@@ -62,12 +67,22 @@ void CommandServer::endCommands(std::function<void()> done) {
 }
 
 void CommandServer::takeCalls() {
-    while (sessions_.size() < mostSessions)
-        if (auto socket = listener_->accept())
-            take(std::move(*socket));
-        else
+    while (sessions_.size() < mostSessions) {
+        auto socket = listener_->accept();
+        if (!socket) {
+            pause_.start();
+            break;
+        }
+        if (!*socket)
             return;
+        take(std::move(**socket));
+    }
     calls_.setEnabled(false);
+}
+
+void CommandServer::resume() {
+    if (listener_)
+        calls_.setEnabled(true);
 }
 
 void CommandServer::take(LocalSocket socket) {
@@ -93,8 +108,7 @@ void CommandServer::drop(const Session* session) {
     const auto found = std::ranges::find(sessions_, session, [](Session& s) { return &s; });
     found->thread.join();
     sessions_.erase(found);
-    if (listener_)
-        calls_.setEnabled(true);
+    resume();
     if (!sessions_.empty())
         return;
     beat_.stop();

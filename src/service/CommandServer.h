@@ -52,6 +52,7 @@ private:
     CommandServer(const Options& options, CommandRunner run, LocalListener listener);
 
     void takeCalls();
+    void resume();
     void take(LocalSocket socket);
     void drop(const Session* session);
 
@@ -59,6 +60,7 @@ private:
     CommandRunner run_;
     std::optional<LocalListener> listener_;
     QSocketNotifier calls_;
+    QTimer pause_; ///< of taking calls
     QTimer beat_;
     QTimer grace_;
     std::list<Session> sessions_;

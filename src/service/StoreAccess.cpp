@@ -5,6 +5,7 @@
 #include <QMetaObject>
 #include <QThread>
 
+#include <atomic>
 #include <memory>
 
 namespace quillon {
@@ -20,6 +21,29 @@ struct Waiting {
     QStringList problems;
     QMetaObject::Connection listening;
     QMetaObject::Connection answers;
+};
+
+/// How far work on another thread is. That thread only counts: showing it may take as long as
+/// somebody's terminal likes, and so is for the thread that waits.
+class Advance {
+public:
+    [[nodiscard]] Progress counter() {
+        return [this](std::size_t done, std::size_t total) {
+            total_ = total;
+            done_ = done;
+        };
+    }
+    void showUntil(Signal& finished, const Progress& progress) {
+        finished.wait([&] {
+            if (progress)
+                progress(done_, total_);
+            return true;
+        });
+    }
+
+private:
+    std::atomic<std::size_t> done_ = 0;
+    std::atomic<std::size_t> total_ = 0;
 };
 
 } // namespace
@@ -99,6 +123,8 @@ StoreAccess::Settling StoreAccess::untilSettled(const QUuid& folderID,
 
 AppStore::CleanupReport StoreAccess::runCleanup(AppStore::Cleanup cleanup) const {
     Signal finished;
+    Advance advance;
+    const Progress progress = std::exchange(cleanup.progress, advance.counter());
     AppStore::CleanupReport result;
     onStoreThread([&] {
         store_->runCleanup(std::move(cleanup), [&](AppStore::CleanupReport report) {
@@ -106,13 +132,14 @@ AppStore::CleanupReport StoreAccess::runCleanup(AppStore::Cleanup cleanup) const
             finished.raise();
         });
     });
-    finished.wait();
+    advance.showUntil(finished, progress);
     return result;
 }
 
-AppStore::UndoReport StoreAccess::undo(std::vector<QUuid> entryIDs, Progress progress,
+AppStore::UndoReport StoreAccess::undo(std::vector<QUuid> entryIDs, const Progress& progress,
                                        std::function<bool()> mayContinue) const {
     Signal finished;
+    Advance advance;
     AppStore::UndoReport result;
     onStoreThread([&] {
         store_->undo(
@@ -121,9 +148,9 @@ AppStore::UndoReport StoreAccess::undo(std::vector<QUuid> entryIDs, Progress pro
                 result = std::move(report);
                 finished.raise();
             },
-            std::move(progress), std::move(mayContinue));
+            advance.counter(), std::move(mayContinue));
     });
-    finished.wait();
+    advance.showUntil(finished, progress);
     return result;
 }
 

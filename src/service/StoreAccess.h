@@ -43,8 +43,9 @@ public:
     [[nodiscard]] Settling untilSettled(const QUuid& folderID,
                                         const std::function<bool()>& mayContinue) const;
 
+    /// As those of the store, but `progress` is called on the thread that waits here.
     [[nodiscard]] AppStore::CleanupReport runCleanup(AppStore::Cleanup cleanup) const;
-    [[nodiscard]] AppStore::UndoReport undo(std::vector<QUuid> entryIDs, Progress progress,
+    [[nodiscard]] AppStore::UndoReport undo(std::vector<QUuid> entryIDs, const Progress& progress,
                                             std::function<bool()> mayContinue) const;
 
 private:

@@ -77,6 +77,20 @@ TEST(StorageTest, replacesAFileAsOneStep) {
         (Tree{{"real", "/"}, {"real/state", "new"}, {"state", "-> real/state"}, {"fresh", "1"}}));
 }
 
+TEST(StorageTest, writesANewFileAndReplacesNone) {
+    const ScratchFolder folder;
+    LinuxStorage storage;
+    folder.write("taken", "old");
+    folder.link("nowhere", "none");
+    EXPECT_TRUE(storage.writeNewDurably(folder.path("fresh"), "1"));
+    for (const char* name : {"taken", "nowhere", "."})
+        EXPECT_EQ(storage.writeNewDurably(folder.path(name), "2").error().kind,
+                  ErrorKind::alreadyExists)
+            << name;
+    EXPECT_EQ(folder.everything(),
+              (Tree{{"fresh", "1"}, {"nowhere", "-> none"}, {"taken", "old"}}));
+}
+
 TEST(StorageTest, appendsWholeOrNotAtAll) {
     const ScratchFolder folder;
     LinuxStorage storage;

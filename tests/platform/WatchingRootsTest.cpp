@@ -7,6 +7,7 @@
 #include <atomic>
 #include <fcntl.h>
 #include <sys/mount.h>
+#include <sys/resource.h>
 
 namespace quillon::testing {
 namespace {
@@ -229,6 +230,53 @@ TEST_F(WatchingRootsTest, moreFoldersThanMayBeWatchedAreLookedAt) {
     before = told.changes();
     scratch.write("big/29/sub/other", "");
     EXPECT_TRUE(told.waitForChange(before));
+}
+
+TEST_F(WatchingRootsTest, aDriveThatNeverAnswersKeepsNothingElseWaiting) {
+    const std::string drive = scratch.makeFolder("with/my drive");
+    scratch.makeFolder("in");
+    // One that a program provides which does nothing.
+    Descriptor program(::open("/dev/fuse", O_RDWR | O_CLOEXEC));
+    const std::string options =
+        "fd=" + std::to_string(program.get()) + ",rootmode=40000,user_id=0,group_id=0";
+    if (!program.isOpen() || ::mount("none", drive.c_str(), "fuse", 0, options.c_str()) != 0)
+        GTEST_SKIP() << "only root may mount";
+    const auto began = std::chrono::steady_clock::now();
+    {
+        InotifyWatching watching({.latency = 0ms, .pollInterval = 20ms});
+        const auto on = watching.watch(scratch.path("with/my drive/sub"), told.handlers());
+        const auto around = watching.watch(scratch.path("with"), told.handlers());
+        Told calm;
+        const auto other = watching.watch(scratch.path("in"), calm.handlers());
+        EXPECT_TRUE(told.wait([&] { return on->warning() && around->warning(); }));
+        EXPECT_THAT(on->warning().value_or(QString()).toStdString(),
+                    HasSubstr("is on a drive that a program provides (FUSE)"));
+        EXPECT_THAT(around->warning().value_or(QString()).toStdString(),
+                    HasSubstr("“with” holds a drive that a program provides (FUSE)"));
+        scratch.write("in/file", "");
+        EXPECT_TRUE(calm.waitForChange(0));
+        EXPECT_FALSE(other->warning());
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - began, 10s);
+    EXPECT_EQ(::umount2(drive.c_str(), MNT_DETACH), 0);
+}
+
+TEST_F(WatchingRootsTest, aQueueThatCouldNotBeHadIsAskedForAgain) {
+    scratch.makeFolder("in");
+    rlimit before = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    const int next = ::dup(0);
+    ::close(next);
+    const rlimit oneMore{rlim_t(next) + 1, before.rlim_max};
+    InotifyWatching watching({.latency = 0ms, .pollInterval = 20ms});
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &oneMore), 0);
+    const auto watcher = watching.watch(scratch.path("in"), told.handlers());
+    EXPECT_TRUE(told.wait([&] { return watcher->warning().has_value(); }));
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+    EXPECT_TRUE(told.wait([&] { return !watcher->warning(); }));
+    const int changes = told.changes();
+    scratch.write("in/file", "");
+    EXPECT_TRUE(told.waitForChange(changes));
 }
 
 } // namespace

@@ -1,7 +1,10 @@
 #include "support/InstanceBench.h"
 
+#include <QAbstractEventDispatcher>
+#include <QTimer>
 #include <gmock/gmock.h>
 
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -191,6 +194,29 @@ TEST(CommandServer, survivesGarbageAndLeavesNothingBehind) {
     for (int i = 0; i < 100 && openDescriptors() > before; ++i)
         bench.whileServing([] { return std::this_thread::sleep_for(50ms), 0; });
     EXPECT_LE(openDescriptors(), before);
+}
+
+TEST(CommandServer, waitsForDescriptorsWithoutSpinning) {
+    InstanceBench bench;
+    ASSERT_TRUE(bench.start(echo));
+    auto socket = LocalSocket::connect(controlSocketPath(bench.folders), 1s);
+    ASSERT_TRUE(socket);
+    rlimit before = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    const int next = ::dup(0);
+    ::close(next);
+    const rlimit none{rlim_t(next), before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    int wakings = 0;
+    const auto counting = QObject::connect(QAbstractEventDispatcher::instance(),
+                                           &QAbstractEventDispatcher::awake, [&] { ++wakings; });
+    QEventLoop loop;
+    QTimer::singleShot(300ms, &loop, &QEventLoop::quit);
+    loop.exec();
+    QObject::disconnect(counting);
+    EXPECT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+    EXPECT_LT(wakings, 50);
+    EXPECT_TRUE(bench.whileServing([&] { return socket->receive(5s); })) << "its turn has come";
 }
 
 TEST(CommandServer, carriesSeveralCommandsOutAtOnceAndWaitsForNobodyWhoReadsSlowly) {

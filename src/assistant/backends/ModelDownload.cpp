@@ -58,10 +58,14 @@ void ModelDownload::ask(const QUrl& host) {
 }
 
 void ModelDownload::readOn() {
-    // What is wrong is told in the end.
-    if (!listener_.done ||
-        reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != accepted)
+    if (!listener_.done)
         return;
+    if (reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != accepted) {
+        // What is wrong is told in the end, or once there is more of it than anybody would say.
+        if (reply_->bytesAvailable() >= mostErrorBytes)
+            refused();
+        return;
+    }
     patience_.start();
     const PullProgress before = stream_.progress();
     if (const auto added = stream_.add(reply_->readAll()); !added)
@@ -84,21 +88,25 @@ void ModelDownload::finished() {
                     u"No local server answers at %1; install Ollama, or start it with "
                     "“ollama serve”"_s.arg(reply_->url().adjusted(QUrl::RemovePath).toString())));
     if (status != accepted)
-        return end(failure(ErrorKind::io,
-                           u"The model “%1” can't be downloaded: %2"_s.arg(name_, reason())));
+        return refused();
     end(failure(ErrorKind::io, u"The download ended early; “quillon model pull” goes on where it "
                                "stopped"_s));
 }
 
-QString ModelDownload::reason() {
+void ModelDownload::refused() {
     const QString told = pullError(reply_->read(mostErrorBytes));
     const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    return told.isEmpty() ? u"the local server answers with %1"_s.arg(status) : told;
+    const QString reason =
+        told.isEmpty() ? u"the local server answers with %1"_s.arg(status) : told;
+    end(failure(ErrorKind::io, u"The model “%1” can't be downloaded: %2"_s.arg(name_, reason)));
 }
 
 void ModelDownload::end(Expected<void> result) {
     patience_.stop();
-    if (const auto done = std::exchange(listener_.done, {}))
+    const auto done = std::exchange(listener_.done, {});
+    if (reply_)
+        reply_->abort(); // or else it would go on filling the memory
+    if (done)
         done(std::move(result));
 }
 

@@ -34,7 +34,7 @@ private:
     void ask(const QUrl& host);
     void readOn();
     void finished();
-    [[nodiscard]] QString reason();
+    void refused();
     void end(Expected<void> result);
 
     QString name_;

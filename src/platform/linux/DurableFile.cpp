@@ -3,6 +3,7 @@
 #include "platform/FileNames.h"
 #include "platform/linux/Descriptor.h"
 #include "platform/linux/FileContents.h"
+#include "platform/linux/FreeName.h"
 #include "platform/linux/SystemError.h"
 
 #include <atomic>
@@ -82,6 +83,35 @@ Expected<void> fill(int file, const QByteArray& bytes) {
     return ::fsync(file) == 0 ? Expected<void>{} : systemFailure(errno);
 }
 
+/// Writes a hidden file beside `target` that `rename` then gives its name.
+Expected<void> writeThenRename(const std::string& target, const QByteArray& bytes,
+                               Expected<void> (*rename)(const std::string& from,
+                                                        const std::string& to)) {
+    std::string temporary;
+    const Expected<Descriptor> file = makeTemporary(target, temporary);
+    if (!file) {
+        return std::unexpected(file.error());
+    }
+    Expected<void> written = fill(file->get(), bytes);
+    if (written) {
+        written = rename(temporary, target);
+    }
+    if (!written) {
+        (void)::unlink(temporary.c_str()); // hidden and ours: at worst it stays
+        return written;
+    }
+    return syncFolderOf(target);
+}
+
+Expected<void> renameReplacing(const std::string& from, const std::string& to) {
+    return ::rename(from.c_str(), to.c_str()) == 0 ? Expected<void>{} : systemFailure(errno);
+}
+
+Expected<void> renameToNew(const std::string& from, const std::string& to) {
+    const int error = renameWithoutReplacing(AT_FDCWD, from, AT_FDCWD, to);
+    return error == 0 ? Expected<void>{} : renameFailure(error);
+}
+
 } // namespace
 
 Expected<QByteArray> readWholeFile(const std::string& path, std::uint64_t maxBytes) {
@@ -114,20 +144,11 @@ Expected<void> writeFileDurably(const std::string& path, const QByteArray& bytes
     if (!target) {
         return std::unexpected(target.error());
     }
-    std::string temporary;
-    const Expected<Descriptor> file = makeTemporary(*target, temporary);
-    if (!file) {
-        return std::unexpected(file.error());
-    }
-    Expected<void> written = fill(file->get(), bytes);
-    if (written && ::rename(temporary.c_str(), target->c_str()) != 0) {
-        written = systemFailure(errno);
-    }
-    if (!written) {
-        (void)::unlink(temporary.c_str()); // hidden and ours: at worst it stays
-        return written;
-    }
-    return syncFolderOf(*target);
+    return writeThenRename(*target, bytes, renameReplacing);
+}
+
+Expected<void> writeNewFileDurably(const std::string& path, const QByteArray& bytes) {
+    return writeThenRename(path, bytes, renameToNew);
 }
 
 Expected<void> syncFolderOf(const std::string& path) {

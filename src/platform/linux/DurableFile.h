@@ -15,6 +15,9 @@ namespace quillon {
 /// As Storage::writeDurably.
 [[nodiscard]] Expected<void> writeFileDurably(const std::string& path, const QByteArray& bytes);
 
+/// As Storage::writeNewDurably.
+[[nodiscard]] Expected<void> writeNewFileDurably(const std::string& path, const QByteArray& bytes);
+
 /// Makes the names in the folder that holds `path` durable.
 [[nodiscard]] Expected<void> syncFolderOf(const std::string& path);
 

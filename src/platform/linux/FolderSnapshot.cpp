@@ -7,7 +7,10 @@
 #include <functional>
 #include <initializer_list>
 #include <string_view>
+#include <sys/eventfd.h>
 #include <sys/stat.h>
+#include <system_error>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -64,6 +67,21 @@ std::uint64_t folderSnapshot(const std::string& path) {
         sum += entriesOf(next, O_NOFOLLOW, folders);
     }
     return sum;
+}
+
+std::future<std::uint64_t> folderSnapshotLater(const std::string& path,
+                                               const std::shared_ptr<const Descriptor>& wake) {
+    std::promise<std::uint64_t> promise;
+    std::future<std::uint64_t> answer = promise.get_future();
+    try {
+        std::thread([path, wake, promise = std::move(promise)]() mutable {
+            promise.set_value(folderSnapshot(path));
+            (void)::eventfd_write(wake->get(), 1);
+        }).detach();
+    } catch (const std::system_error&) {
+        return {};
+    }
+    return answer;
 }
 
 } // namespace quillon

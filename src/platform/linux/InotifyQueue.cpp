@@ -28,9 +28,16 @@ constexpr std::size_t bufferSize = 65'536;
 
 } // namespace
 
-InotifyQueue::InotifyQueue(std::function<std::size_t()> limit)
-    : limit_(std::move(limit)), queue_(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
-    error_ = queue_.isOpen() ? 0 : errno;
+InotifyQueue::InotifyQueue(std::function<std::size_t()> limit) : limit_(std::move(limit)) {
+    reopen();
+}
+
+bool InotifyQueue::reopen() {
+    if (!queue_.isOpen()) {
+        queue_ = Descriptor(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+        error_ = queue_.isOpen() ? 0 : errno;
+    }
+    return queue_.isOpen();
 }
 
 int InotifyQueue::hold(const std::string& path, Interest interest) {

@@ -30,6 +30,8 @@ public:
 
     /// 0, or the errno value that says why there is no queue.
     [[nodiscard]] int error() const { return error_; }
+    /// Tries again where there is no queue; whether there is one now.
+    bool reopen();
     /// Readable when there are messages.
     [[nodiscard]] int descriptor() const { return queue_.get(); }
 

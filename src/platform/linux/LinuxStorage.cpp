@@ -22,6 +22,10 @@ Expected<void> LinuxStorage::writeDurably(const std::string& path, const QByteAr
     return writeFileDurably(path, bytes);
 }
 
+Expected<void> LinuxStorage::writeNewDurably(const std::string& path, const QByteArray& bytes) {
+    return writeNewFileDurably(path, bytes);
+}
+
 Expected<std::unique_ptr<AppendFile>> LinuxStorage::openAppend(const std::string& path) {
     return LinuxAppendFile::open(path);
 }

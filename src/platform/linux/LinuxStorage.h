@@ -11,6 +11,8 @@ public:
                                                  std::uint64_t maxBytes) const override;
     [[nodiscard]] Expected<void> writeDurably(const std::string& path,
                                               const QByteArray& bytes) override;
+    [[nodiscard]] Expected<void> writeNewDurably(const std::string& path,
+                                                 const QByteArray& bytes) override;
     [[nodiscard]] Expected<std::unique_ptr<AppendFile>>
     openAppend(const std::string& path) override;
     [[nodiscard]] Expected<std::unique_ptr<FileLock>> tryLock(const std::string& path) override;

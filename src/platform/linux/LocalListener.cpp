@@ -72,11 +72,16 @@ LocalListener::~LocalListener() {
         (void)::unlink(path_.c_str());
 }
 
-std::optional<LocalSocket> LocalListener::accept() {
-    Descriptor caller(::accept4(descriptor_.get(), nullptr, nullptr, SOCK_CLOEXEC));
-    if (!caller.isOpen())
-        return std::nullopt;
-    return LocalSocket(std::move(caller));
+Expected<std::optional<LocalSocket>> LocalListener::accept() {
+    for (;;) {
+        Descriptor caller(::accept4(descriptor_.get(), nullptr, nullptr, SOCK_CLOEXEC));
+        if (caller.isOpen())
+            return LocalSocket(std::move(caller));
+        if (errno == EAGAIN)
+            return std::nullopt;
+        if (errno != EINTR && errno != ECONNABORTED)
+            return systemFailure();
+    }
 }
 
 } // namespace quillon

@@ -19,8 +19,9 @@ public:
     /// Removes the name, unless another socket has taken it.
     ~LocalListener();
 
-    /// The next caller, if one waits.
-    [[nodiscard]] std::optional<LocalSocket> accept();
+    /// The next caller; nothing when none waits. Fails when one can't be taken, for want of
+    /// descriptors for instance, and goes on waiting.
+    [[nodiscard]] Expected<std::optional<LocalSocket>> accept();
 
     /// Can be read from when somebody calls. For an event loop.
     [[nodiscard]] int descriptor() const { return descriptor_.get(); }

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <limits>
 #include <string_view>
 #include <sys/inotify.h>
 #include <sys/stat.h>
@@ -29,8 +28,8 @@ bool isLink(const std::string& path) {
 } // namespace
 
 RootWatch::RootWatch(std::string path, InotifyQueue& queue, const WatchingOptions& options,
-                     timespec since)
-    : path_(std::move(path)), queue_(queue), options_(options) {
+                     std::shared_ptr<const Descriptor> wake, timespec since)
+    : path_(std::move(path)), queue_(queue), options_(options), wake_(std::move(wake)) {
     relocate();
     const auto isSince = [&since](const timespec& time) {
         return std::pair(time.tv_sec, time.tv_nsec) >= std::pair(since.tv_sec, since.tv_nsec);
@@ -64,7 +63,7 @@ void RootWatch::handle(const InotifyEvent& event) {
 }
 
 void RootWatch::rescan() {
-    if (snapshot_) {
+    if (isLookedAt()) {
         return;
     }
     hasChanged_ = true;
@@ -76,7 +75,11 @@ void RootWatch::rescan() {
 
 void RootWatch::relocate() {
     if (const std::optional<QString> kind = options_.remoteKind(path_)) {
-        lookAtRemote(*kind);
+        lookAtRemote(QStringLiteral("is on %1"), *kind);
+        return;
+    }
+    if (const std::optional<QString> kind = options_.remoteKindWithin(path_)) {
+        lookAtRemote(QStringLiteral("holds %1"), *kind);
         return;
     }
     for (int tries = 0; tries < patience; ++tries) {
@@ -141,7 +144,7 @@ bool RootWatch::waitAtAncestor() {
         awaitedIn_ = watch;
         awaitedName_ = lastComponent(missing);
         if (const std::optional<QString> kind = options_.remoteKind(folder)) {
-            lookAtRemote(*kind);
+            lookAtRemote(QStringLiteral("is on %1"), *kind);
             return true;
         }
         endLooking();
@@ -157,17 +160,29 @@ bool RootWatch::waitAtAncestor() {
 }
 
 void RootWatch::look() {
-    if (!snapshot_ || (limitReached_ && queue_.limit() > *limitReached_)) {
+    const bool isLimitRaised = limitReached_ && queue_.reopen() && queue_.limit() > *limitReached_;
+    if (!isLookedAt() || isLimitRaised) {
         lookDue_.reset();
         relocate();
         return;
     }
-    takeSnapshot();
+    startSnapshot();
 }
 
-void RootWatch::lookAtRemote(const QString& kind) {
-    if (!snapshot_ || lacksWatches()) {
-        lookInstead(QStringLiteral("is on %1, which doesn’t tell of changes").arg(kind),
+bool RootWatch::takeChange() {
+    using namespace std::chrono_literals;
+    if (nextSnapshot_.valid() && nextSnapshot_.wait_for(0s) == std::future_status::ready) {
+        const std::uint64_t now = nextSnapshot_.get();
+        hasChanged_ = hasChanged_ || (snapshot_ && now != *snapshot_);
+        snapshot_ = now;
+        warning_ = newWarning_;
+    }
+    return std::exchange(hasChanged_, false);
+}
+
+void RootWatch::lookAtRemote(const QString& reason, const QString& kind) {
+    if (!isLookedAt() || lacksWatches()) {
+        lookInstead(QStringLiteral("%1, which doesn’t tell of changes").arg(reason.arg(kind)),
                     QStringLiteral("put it on a schedule if that is too often"));
         limitReached_.reset();
     }
@@ -178,28 +193,33 @@ void RootWatch::lookForLackOfWatches() {
     lookInstead(QStringLiteral("is more than the system’s limit lets Quillon watch"),
                 QStringLiteral("raise fs.inotify.max_user_%1 to have it tidied at once")
                     .arg(hasQueue ? QStringLiteral("watches") : QStringLiteral("instances")));
-    limitReached_ = hasQueue ? queue_.limit() : std::numeric_limits<std::size_t>::max();
+    limitReached_ = hasQueue ? queue_.limit() : 0;
 }
 
 void RootWatch::lookInstead(const QString& reason, const QString& advice) {
     stopWatching();
     const auto interval = std::chrono::duration_cast<std::chrono::seconds>(options_.pollInterval);
     const std::string_view name = path_ == "/" ? path_ : lastComponent(path_);
-    warning_ = QStringLiteral("“%1” %2, so Quillon looks every %3 seconds; %4")
-                   .arg(QString::fromStdString(std::string(name)), reason,
-                        QString::number(interval.count()), advice);
-    takeSnapshot();
+    newWarning_ = QStringLiteral("“%1” %2, so Quillon looks every %3 seconds; %4")
+                      .arg(QString::fromStdString(std::string(name)), reason,
+                           QString::number(interval.count()), advice);
+    startSnapshot();
 }
 
-void RootWatch::takeSnapshot() {
-    const std::uint64_t now = folderSnapshot(path_);
-    hasChanged_ = hasChanged_ || (snapshot_ && now != *snapshot_);
-    snapshot_ = now;
+/// Unless one is still being taken.
+void RootWatch::startSnapshot() {
+    if (nextSnapshot_.valid()) {
+        warning_ = newWarning_;
+    } else {
+        nextSnapshot_ = folderSnapshotLater(path_, wake_);
+    }
     lookDue_ = std::chrono::steady_clock::now() + options_.pollInterval;
 }
 
 void RootWatch::endLooking() {
+    newWarning_.clear();
     snapshot_.reset();
+    nextSnapshot_ = {};
     limitReached_.reset();
     lookDue_.reset();
     warning_.reset();

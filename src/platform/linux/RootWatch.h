@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/Descriptor.h"
 #include "platform/linux/InotifyQueue.h"
 #include "platform/linux/WatchTree.h"
 #include "platform/linux/WatchingOptions.h"
@@ -9,6 +10,8 @@
 #include <chrono>
 #include <cstdint>
 #include <ctime>
+#include <future>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -23,9 +26,9 @@ public:
     using Moment = std::chrono::steady_clock::time_point;
 
     /// Begins at once. What has changed from `since` on counts as a change. Borrows the queue and
-    /// the options.
+    /// the options. `wake` is added to when something comes to light by itself.
     RootWatch(std::string path, InotifyQueue& queue, const WatchingOptions& options,
-              timespec since);
+              std::shared_ptr<const Descriptor> wake, timespec since);
     ~RootWatch();
     RootWatch(const RootWatch&) = delete;
     RootWatch& operator=(const RootWatch&) = delete;
@@ -43,7 +46,7 @@ public:
     void look();
 
     /// Whether something has changed since the last call.
-    [[nodiscard]] bool takeChange() { return std::exchange(hasChanged_, false); }
+    [[nodiscard]] bool takeChange();
 
     /// As FolderWatcher::warning.
     [[nodiscard]] const std::optional<QString>& warning() const { return warning_; }
@@ -56,24 +59,28 @@ private:
     [[nodiscard]] bool waitAtAncestor();
     void holdLocation();
     void stopWatching();
-    void lookAtRemote(const QString& kind);
+    [[nodiscard]] bool isLookedAt() const { return !newWarning_.isEmpty(); }
+    void lookAtRemote(const QString& reason, const QString& kind);
     void lookForLackOfWatches();
     void lookInstead(const QString& reason, const QString& advice);
-    void takeSnapshot();
+    void startSnapshot();
     void endLooking();
 
     std::string path_;
     InotifyQueue& queue_;
     const WatchingOptions& options_;
+    std::shared_ptr<const Descriptor> wake_;
 
     std::optional<WatchTree> tree_;
     std::vector<int> location_; ///< the watches of the folders on the way
     int awaitedIn_ = -1;        ///< the watch of the folder in which the way ends too early
     std::string awaitedName_;
-    std::optional<std::uint64_t> snapshot_; ///< set while it is looked at instead of watched
+    QString newWarning_; ///< set while it is looked at instead of watched
+    std::optional<std::uint64_t> snapshot_;
+    std::future<std::uint64_t> nextSnapshot_; ///< valid while it is being taken
     std::optional<std::size_t> limitReached_;
     std::optional<Moment> lookDue_;
-    std::optional<QString> warning_;
+    std::optional<QString> warning_; ///< the new one, once there is a snapshot or it takes long
     bool hasChanged_ = false;
 };
 

@@ -32,7 +32,7 @@ std::thread quietThread(Work work) {
 
 WatchLoop::WatchLoop(WatchingOptions options)
     : options_(std::move(options))
-    , wake_(::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
+    , wake_(std::make_shared<const Descriptor>(::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)))
     , queue_(options_.maxWatches)
     , mounts_(::open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC))
     , thread_(quietThread([this] { run(); })) {}
@@ -42,7 +42,7 @@ WatchLoop::~WatchLoop() {
         const std::lock_guard lock(requestLock_);
         isEnding_ = true;
     }
-    (void)::eventfd_write(wake_.get(), 1);
+    (void)::eventfd_write(wake_->get(), 1);
     thread_.join();
 }
 
@@ -59,7 +59,7 @@ void WatchLoop::ask(Request request) {
         const std::lock_guard lock(requestLock_);
         requests_.push_back(std::move(request));
     }
-    (void)::eventfd_write(wake_.get(), 1);
+    (void)::eventfd_write(wake_->get(), 1);
 }
 
 void WatchLoop::run() {
@@ -72,13 +72,13 @@ void WatchLoop::run() {
 /// Until something happens or is due, and reads what has happened. False at the end.
 bool WatchLoop::wait() {
     std::array<pollfd, 3> sources{{
-        {.fd = wake_.get(), .events = POLLIN, .revents = 0},
+        {.fd = wake_->get(), .events = POLLIN, .revents = 0},
         {.fd = queue_.descriptor(), .events = POLLIN, .revents = 0},
         {.fd = mounts_.get(), .events = POLLPRI, .revents = 0},
     }};
     (void)::poll(sources.data(), sources.size(), timeout());
     eventfd_t count = 0;
-    (void)::eventfd_read(wake_.get(), &count);
+    (void)::eventfd_read(wake_->get(), &count);
     {
         const std::lock_guard lock(requestLock_);
         if (isEnding_) {
@@ -112,7 +112,7 @@ void WatchLoop::answerRequests() {
                 return each.subscription == request.subscription;
             });
         } else {
-            watched_.emplace_back(std::move(request.subscription), queue_, options_);
+            watched_.emplace_back(std::move(request.subscription), queue_, options_, wake_);
         }
     }
     // Their watches may be what others lack.
@@ -153,7 +153,7 @@ void WatchLoop::deliver() {
 /// In milliseconds, rounded up; -1 when nothing is due.
 int WatchLoop::timeout() const {
     std::optional<Clock::time_point> next;
-    if (!wake_.isOpen()) { // for want of descriptors
+    if (!wake_->isOpen()) { // for want of descriptors
         next = Clock::now() + std::chrono::seconds(1);
     }
     for (const Watched& each : watched_) {

@@ -17,8 +17,9 @@
 
 namespace quillon {
 
-/// The thread that watches: it alone talks to the kernel's queue, walks trees and calls handlers.
-/// It sleeps until something happens, or until something is due.
+/// The thread that watches: it alone talks to the kernel's queue, walks watched trees and calls
+/// handlers. It sleeps until something happens, or until something is due, and touches nothing that
+/// is on another machine.
 class WatchLoop {
 public:
     explicit WatchLoop(WatchingOptions options);
@@ -34,9 +35,9 @@ public:
 private:
     struct Watched {
         Watched(std::shared_ptr<WatchSubscription> its, InotifyQueue& queue,
-                const WatchingOptions& options)
+                const WatchingOptions& options, std::shared_ptr<const Descriptor> wake)
             : subscription(std::move(its))
-            , root(subscription->path(), queue, options, subscription->since())
+            , root(subscription->path(), queue, options, std::move(wake), subscription->since())
             , changes(options.latency) {}
 
         std::shared_ptr<WatchSubscription> subscription;
@@ -57,7 +58,7 @@ private:
     [[nodiscard]] int timeout() const;
 
     const WatchingOptions options_;
-    Descriptor wake_;
+    std::shared_ptr<const Descriptor> wake_;
     std::mutex requestLock_;
     std::vector<Request> requests_;
     bool isEnding_ = false;

@@ -22,6 +22,9 @@ struct WatchingOptions {
     std::function<std::size_t()> maxWatches = {};
     /// As remoteKind().
     std::function<std::optional<QString>(const std::string& path)> remoteKind = quillon::remoteKind;
+    /// As remoteKindWithin().
+    std::function<std::optional<QString>(const std::string& path)> remoteKindWithin =
+        quillon::remoteKindWithin;
 };
 
 } // namespace quillon
