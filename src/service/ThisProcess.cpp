@@ -2,6 +2,7 @@
 
 #include "platform/linux/HiddenLine.h"
 #include "platform/linux/LinuxUserFolders.h"
+#include "platform/linux/ProcessMemory.h"
 #include "platform/linux/StandardStreams.h"
 #include "platform/linux/StopSignals.h"
 
@@ -28,6 +29,7 @@ std::function<std::optional<std::string>(const std::string&)> secretFromTerminal
 void becomeLongLived() {
     noteEveryStopSignal();
     ignoreBrokenPipes();
+    giveMemoryBack();
 }
 
 void endProcess(int code) {

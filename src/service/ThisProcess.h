@@ -23,8 +23,8 @@ struct TerminalUse {
 /// For Console::askInSecret; empty when standard input is no terminal.
 [[nodiscard]] std::function<std::optional<std::string>(const std::string&)> secretFromTerminal();
 
-/// For a process that lives on: notes every request to end, and outlives whoever reads what it
-/// says.
+/// For a process that lives on: notes every request to end, outlives whoever reads what it says,
+/// and gives memory back that it is done with.
 void becomeLongLived();
 
 /// At once, for a thread may be left behind that still waits for a message bus and must not see
