@@ -17,6 +17,8 @@ struct StorePlaces {
     [[nodiscard]] std::string previous() const { return joinPath(folder, "store.json.previous"); }
     [[nodiscard]] std::string journal() const { return joinPath(folder, "journal"); }
     [[nodiscard]] std::string memory() const { return joinPath(folder, "memory.json"); }
+    /// The conversation with the assistant.
+    [[nodiscard]] std::string chat() const { return joinPath(folder, "dobbin-chat.json"); }
     [[nodiscard]] std::string lock() const { return joinPath(folder, "store.lock"); }
 };
 
