@@ -1,5 +1,6 @@
 #include "service/Services.h"
 
+#include "assistant/DobbinChat.h"
 #include "assistant/DobbinJudge.h"
 #include "assistant/DobbinResolver.h"
 #include "assistant/FileText.h"
@@ -84,8 +85,8 @@ struct Services::Assistant {
                   [&judge = machine.judge] { judge.clearAnswers(); }) {}
 };
 
-/// What only an open store needs. The store goes first, and the resolver before what the background
-/// may still be using.
+/// What only an open store needs. The conversation goes first, then the store, and the resolver
+/// before what the background may still be using.
 struct Services::OpenStore {
     ReaderProcess reader{readerProgram()};
     FileText texts;
@@ -96,6 +97,7 @@ struct Services::OpenStore {
     DobbinResolver resolver;
     AppStore::Life life;
     AppStore store;
+    std::unique_ptr<DobbinChat> chat; ///< made when it is first asked for
 
     OpenStore(Services& services, std::unique_ptr<StoreSession> session, AppStore::Life itsLife)
         : texts(services.machine_->platform, reader)
@@ -136,6 +138,10 @@ Settings& Services::settings() {
 
 RuleEngine Services::engine(EngineSettings settings) {
     return RuleEngine(machine_->platform, machine_->judge, std::move(settings));
+}
+
+const DobbinJudge& Services::judge() const {
+    return machine_->judge;
 }
 
 StoreSession::Services Services::storeServices() {
@@ -198,6 +204,20 @@ AIManager& Services::assistant() {
     if (!assistant_)
         assistant_ = std::make_unique<Assistant>(*machine_);
     return assistant_->manager;
+}
+
+DobbinChat& Services::chat() {
+    if (!store_->chat)
+        store_->chat = std::make_unique<DobbinChat>(
+            DobbinChat::Surroundings{.store = store_->store,
+                                     .platform = machine_->platform,
+                                     .judge = machine_->judge,
+                                     .storage = machine_->storage,
+                                     .settings = machine_->settings,
+                                     .background = store_->background,
+                                     .assistant = [this]() -> AIManager& { return assistant(); }},
+            StorePlaces(machine_->folders.data).chat());
+    return *store_->chat;
 }
 
 Expected<AppStore*> Services::startInstance() {

@@ -41,14 +41,19 @@ AIManager::~AIManager() {
 
 QCoro::Task<Expected<QString>> AIManager::send(AIRequest request) {
     const std::weak_ptr<const void> life = life_;
-    if (useClaude() && apiKey_.isEmpty()) {
-        (void)co_await loadKey(); // without a key it is the other backend's turn
-        if (life.expired())
-            co_return gone();
-    }
-    if (useClaude() && !apiKey_.isEmpty())
+    const bool toClaude = co_await asksClaude();
+    if (life.expired())
+        co_return gone();
+    if (toClaude)
         co_return co_await askClaude(std::move(request));
     co_return co_await askOnDevice(std::move(request));
+}
+
+QCoro::Task<bool> AIManager::asksClaude() {
+    const std::weak_ptr<const void> life = life_;
+    if (useClaude() && apiKey_.isEmpty())
+        (void)co_await loadKey(); // without a key it is the other backend's turn
+    co_return !life.expired() && useClaude() && !apiKey_.isEmpty();
 }
 
 QCoro::Task<Expected<QString>> AIManager::askClaude(AIRequest request) {

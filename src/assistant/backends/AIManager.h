@@ -51,6 +51,9 @@ public:
     /// Loads the key first where Claude is to be asked and it isn't in memory.
     [[nodiscard]] QCoro::Task<Expected<QString>> send(AIRequest request) override;
 
+    /// Whether send() would ask Claude now, which it finds out in the same way.
+    [[nodiscard]] QCoro::Task<bool> asksClaude();
+
     [[nodiscard]] bool suggestRules() const;
     [[nodiscard]] bool readContents() const override;
     [[nodiscard]] bool useClaude() const;
