@@ -37,6 +37,11 @@ void ProgressBar::updateBytes(std::int64_t done, std::int64_t total) {
 }
 
 void ProgressBar::draw(double done, const std::string& figures) {
+    const auto filled = std::size_t(double(cells) * std::clamp(done, 0.0, 1.0));
+    draw('[' + std::string(filled, '#') + std::string(cells - filled, '.') + "] " + figures);
+}
+
+void ProgressBar::draw(const std::string& line) {
     if (!isShown_)
         return;
     const Timestamp now = clock_.now();
@@ -44,9 +49,7 @@ void ProgressBar::draw(double done, const std::string& figures) {
         return;
     nextDrawing_ = now + betweenDrawings;
     isDrawn_ = true;
-    const auto filled = std::size_t(double(cells) * std::clamp(done, 0.0, 1.0));
-    terminal_ << "\r\x1b[K[" << std::string(filled, '#') << std::string(cells - filled, '.') << "] "
-              << figures;
+    terminal_ << "\r\x1b[K" << line;
     terminal_.flush();
 }
 

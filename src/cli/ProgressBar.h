@@ -19,6 +19,8 @@ public:
 
     void update(std::size_t done, std::size_t total);
     void updateBytes(std::int64_t done, std::int64_t total);
+    /// A line for work whose length nobody knows.
+    void draw(const std::string& line);
 
 private:
     void draw(double done, const std::string& figures);
