@@ -68,6 +68,22 @@ bool DobbinJudge::isWaiting(const std::string& path) {
     return file && (outstandingVerdicts_.contains(*file) || names_.isOutstanding(*file));
 }
 
+Verdict DobbinJudge::knownVerdict(const std::string& path, const QString& question) const {
+    const auto file = keyOf(path);
+    const std::scoped_lock guard(lock_);
+    const auto matches =
+        file ? verdicts_.answer({.question = question, .file = *file}) : std::nullopt;
+    if (!matches)
+        return Verdict::unknown;
+    return *matches ? Verdict::yes : Verdict::no;
+}
+
+std::optional<QString> DobbinJudge::knownName(const std::string& path) const {
+    const auto file = keyOf(path);
+    const std::scoped_lock guard(lock_);
+    return file ? names_.answer(*file) : std::nullopt;
+}
+
 bool DobbinJudge::hasPending() const {
     const std::scoped_lock guard(lock_);
     return verdicts_.hasPending() || names_.hasPending();
