@@ -69,10 +69,15 @@ bool DobbinJudge::isWaiting(const std::string& path) {
 }
 
 Verdict DobbinJudge::knownVerdict(const std::string& path, const QString& question) const {
-    const auto file = keyOf(path);
+    const auto status = fileSystem_.status(path);
+    return status ? knownVerdict(path, *status, question) : Verdict::unknown;
+}
+
+Verdict DobbinJudge::knownVerdict(const std::string& path, const FileStatus& status,
+                                  const QString& question) const {
+    const FileKey file = keyFor(path, status);
     const std::scoped_lock guard(lock_);
-    const auto matches =
-        file ? verdicts_.answer({.question = question, .file = *file}) : std::nullopt;
+    const auto matches = verdicts_.answer({.question = question, .file = file});
     if (!matches)
         return Verdict::unknown;
     return *matches ? Verdict::yes : Verdict::no;

@@ -43,6 +43,9 @@ public:
 
     // What is known already; queues nothing.
     [[nodiscard]] Verdict knownVerdict(const std::string& path, const QString& question) const;
+    /// Of a file that was of this status when it lay at the path.
+    [[nodiscard]] Verdict knownVerdict(const std::string& path, const FileStatus& status,
+                                       const QString& question) const;
     [[nodiscard]] std::optional<QString> knownName(const std::string& path) const;
 
     [[nodiscard]] bool hasPending() const;

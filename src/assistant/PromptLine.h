@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+// Names and texts of others as a prompt shows them: on one line, without what can't be seen, and
+// cut with "…" when long, so that none of them can write a line of its own.
+
+[[nodiscard]] QString promptLine(const QString& text, qsizetype most);
+
+/// The name of a folder or a rule, 80 characters at most.
+[[nodiscard]] QString promptName(const QString& name);
+
+/// The name of a file, 120 characters at most.
+[[nodiscard]] QString promptFileName(const QString& name);
+
+} // namespace quillon
