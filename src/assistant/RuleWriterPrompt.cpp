@@ -162,14 +162,11 @@ void addActions(JsonStream& json) {
 
 QString ruleWriterPrompt(const QString& folderName, const QStringList& otherFolderNames) {
     const QString folder = plainLine(folderName);
-    QString prompt;
-    for (const QStringView part :
-         {beforeFolder, QStringView(folder), beforeOperators, QStringView(operatorTable()),
-          beforeKinds, QStringView(allRawValues<FileKind>().join(u", "_s)), beforeColors,
-          QStringView(allRawValues<TagColor>().join(u", "_s)), beforeOtherFolders,
-          QStringView(quoted(otherFolderNames)), beforeSubfolder, QStringView(folder), ending})
-        prompt += part;
-    return prompt;
+    return beforeFolder.toString() + folder + beforeOperators.toString() + operatorTable() +
+           beforeKinds.toString() + allRawValues<FileKind>().join(u", "_s) +
+           beforeColors.toString() + allRawValues<TagColor>().join(u", "_s) +
+           beforeOtherFolders.toString() + quoted(otherFolderNames) + beforeSubfolder.toString() +
+           folder + ending.toString();
 }
 
 QByteArray ruleWriterSchema() {
