@@ -44,7 +44,8 @@ const QSet<QString>& stopWords() {
             "wouldnt yet you your youve file files folder folders activity happily earlier "
             "interesting "
             "strange ago around"_s;
-        return QSet<QString>(text.split(u' ').begin(), text.split(u' ').end());
+        const QStringList list = text.split(u' ');
+        return QSet<QString>(list.begin(), list.end());
     }();
     return words;
 }
