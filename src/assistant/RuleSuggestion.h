@@ -1,7 +1,10 @@
 #pragma once
 
+#include "model/RawValue.h"
 #include "model/Rule.h"
+#include "platform/Error.h"
 
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
@@ -9,6 +12,8 @@
 #include <vector>
 
 namespace quillon {
+
+class JsonReader;
 
 /// What a folder may be full of, in the order in which it is looked for.
 enum class SuggestionTopic : std::uint8_t {
@@ -20,6 +25,20 @@ enum class SuggestionTopic : std::uint8_t {
     host,
     extension,
 };
+
+template <>
+inline constexpr auto rawValues<SuggestionTopic> = std::to_array<std::u16string_view>({
+    u"screenshots",
+    u"invoices",
+    u"installers",
+    u"archives",
+    u"largeFiles",
+    u"host",
+    u"extension",
+});
+
+template <>
+inline constexpr std::u16string_view rawValueNoun<SuggestionTopic> = u"a topic";
 
 /// A rule that would find something to do in a folder.
 struct RuleSuggestion {
@@ -39,5 +58,10 @@ struct RuleSuggestion {
 /// The same for two rules with the same conditions and actions, whatever they are called and
 /// whatever their ids.
 [[nodiscard]] std::uint64_t suggestionKey(Rule rule);
+
+/// What of a suggestion holds for longer than a moment: all but the count, the reason and the
+/// examples.
+[[nodiscard]] QJsonObject toJson(const RuleSuggestion& suggestion);
+[[nodiscard]] Expected<RuleSuggestion> suggestionFromJson(const JsonReader& json);
 
 } // namespace quillon

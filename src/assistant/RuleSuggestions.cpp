@@ -4,7 +4,6 @@
 #include "engine/Destination.h"
 #include "engine/RuleChecks.h"
 #include "platform/FileNames.h"
-#include "store/StableHash.h"
 
 #include <algorithm>
 #include <optional>
@@ -124,11 +123,6 @@ void describe(Weighed& item, Timestamp now) {
 
 } // namespace
 
-std::uint64_t suggestionKey(Rule rule) {
-    rule.id = QUuid();
-    return stableHash(rule);
-}
-
 std::vector<RuleSuggestion> chosenSuggestions(const FolderView& view,
                                               std::vector<RuleSuggestion> candidates,
                                               const QSet<std::uint64_t>& dismissed,
@@ -151,6 +145,11 @@ std::vector<RuleSuggestion> chosenSuggestions(const FolderView& view,
         chosen.push_back(std::move(item.suggestion));
     }
     return chosen;
+}
+
+std::vector<RuleSuggestion> shownOf(std::vector<RuleSuggestion> suggestions) {
+    suggestions.resize(std::min(suggestions.size(), mostSuggestions));
+    return suggestions;
 }
 
 } // namespace quillon

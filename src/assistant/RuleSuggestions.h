@@ -11,8 +11,10 @@
 
 namespace quillon {
 
-/// As many as are shown, and the fewest files that are worth a rule.
+/// As many as are shown; as many as are counted, since a model may join some of them; and the
+/// fewest files that are worth a rule.
 inline constexpr std::size_t mostSuggestions = 5;
+inline constexpr std::size_t mostCounted = 12;
 inline constexpr std::size_t fewestFiles = 3;
 
 /// Which of the candidates suit the folder now, the most useful first, each with its reason and the
@@ -23,6 +25,9 @@ inline constexpr std::size_t fewestFiles = 3;
 [[nodiscard]] std::vector<RuleSuggestion> chosenSuggestions(const FolderView& view,
                                                             std::vector<RuleSuggestion> candidates,
                                                             const QSet<std::uint64_t>& dismissed,
-                                                            std::size_t most = mostSuggestions);
+                                                            std::size_t most = mostCounted);
+
+/// The first that are shown.
+[[nodiscard]] std::vector<RuleSuggestion> shownOf(std::vector<RuleSuggestion> suggestions);
 
 } // namespace quillon

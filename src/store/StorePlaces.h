@@ -19,6 +19,11 @@ struct StorePlaces {
     [[nodiscard]] std::string memory() const { return joinPath(folder, "memory.json"); }
     /// The conversation with the assistant.
     [[nodiscard]] std::string chat() const { return joinPath(folder, "dobbin-chat.json"); }
+    /// Which rules were suggested and dismissed.
+    [[nodiscard]] std::string suggestions() const { return joinPath(folder, "suggestions.json"); }
+    [[nodiscard]] std::string suggestionsLock() const {
+        return joinPath(folder, "suggestions.lock");
+    }
     [[nodiscard]] std::string lock() const { return joinPath(folder, "store.lock"); }
 };
 
