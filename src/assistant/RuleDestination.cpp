@@ -34,9 +34,8 @@ std::vector<std::string> components(std::string_view path) {
     return names;
 }
 
-/// Where a file that goes to this path ends: every link that is there now is followed, in turn with
-/// every "..", as the system does it. What isn't there yet will be made.
-std::string landing(const std::string& path, const FileSystem& fileSystem) {
+/// Links and ".." are followed in turn, as the system does it.
+std::string followed(const std::string& path, const FileSystem& fileSystem) {
     std::string place = "/";
     for (const std::string& name : components(path))
         place = name == ".." ? std::string(parentPath(place))
@@ -58,7 +57,7 @@ std::string ownFolder(const std::string& path, const RulePlace& place, const Pla
         own.push_back(platform.folders.home);
     std::string innermost;
     for (const std::string& folder : own)
-        if (const std::string root = landing(folder, platform.fileSystem);
+        if (const std::string root = followed(folder, platform.fileSystem);
             !folder.empty() && isWithin(path, root) && root.size() > innermost.size())
             innermost = root;
     return innermost;
@@ -88,6 +87,13 @@ std::optional<QString> resolveDestination(const QString& text, const RulePlace& 
     return appendedPath(place.folder.path, name);
 }
 
+Expected<std::string> landingPlace(const QString& destination, const Platform& platform) {
+    auto folder = destinationFolder(destination, platform.folders);
+    if (folder)
+        *folder = followed(*folder, platform.fileSystem);
+    return folder;
+}
+
 std::optional<QString> destinationWarning(const QString& destination, const RulePlace& place,
                                           const Platform& platform) {
     const QString said = quotedForError(destination);
@@ -101,7 +107,7 @@ std::optional<QString> destinationWarning(const QString& destination, const Rule
     if (isTooLong)
         return u"%1 is no folder that files could go to: its name is too long."_s.arg(said);
 
-    const std::string end = landing(*folder, platform.fileSystem);
+    const std::string end = followed(*folder, platform.fileSystem);
     const QString endText = QString::fromStdString(end);
     const std::string own = ownFolder(end, place, platform);
     if (own.empty())

@@ -3,6 +3,7 @@
 #include "assistant/RuleWriter.h"
 
 #include <optional>
+#include <string>
 
 namespace quillon {
 
@@ -10,6 +11,11 @@ namespace quillon {
 /// folder, or a subfolder of this one. Nothing when it says none.
 [[nodiscard]] std::optional<QString> resolveDestination(const QString& text,
                                                         const RulePlace& place);
+
+/// The folder in which files that are sent there would end, with every link and ".." followed as it
+/// stands now; what isn't there yet would be made. Fails like destinationFolder. Looks at the disk.
+[[nodiscard]] Expected<std::string> landingPlace(const QString& destination,
+                                                 const Platform& platform);
 
 /// What the user should know before files go there, in a sentence that says where that is: it lies
 /// outside of this folder, the other watched ones and the home folder once links and ".." are

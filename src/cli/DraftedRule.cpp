@@ -1,10 +1,10 @@
 #include "cli/DraftedRule.h"
 
 #include "assistant/QuietJudge.h"
+#include "assistant/RuleDestination.h"
 #include "assistant/backends/AIManager.h"
 #include "cli/NamedFolder.h"
 #include "cli/StoreFailure.h"
-#include "engine/Destination.h"
 #include "platform/FileNames.h"
 #include "platform/FileSystem.h"
 #include "service/LoopTask.h"
@@ -44,11 +44,11 @@ void lookWhatItCatches(DraftedRule& drafted, const ReadyFiles& ready, Services& 
             drafted.asks.append(pathText(lastComponent(file.path)));
 }
 
-QStringList destinationsOf(const Rule& rule, const UserFolders& folders) {
+QStringList destinationsOf(const Rule& rule, const Platform& platform) {
     QStringList paths;
     for (const RuleAction& action : rule.actions)
-        if (const auto folder = destinationFolder(action.destination, folders))
-            paths.append(pathText(*folder));
+        if (const auto place = landingPlace(action.destination.value_or(QString()), platform))
+            paths.append(pathText(*place));
     return paths;
 }
 
@@ -94,7 +94,7 @@ Chosen<DraftedRule> draftRule(const QString& sentence, const RulePlace& place,
     if (!draft)
         return refusal(ExitCode::someFailed, draft.error().message);
     DraftedRule drafted{.draft = std::move(*draft)};
-    drafted.destinations = destinationsOf(drafted.draft.rule, services.platform().folders);
+    drafted.destinations = destinationsOf(drafted.draft.rule, services.platform());
     lookWhatItCatches(drafted, *ready, services);
     return drafted;
 }

@@ -12,7 +12,7 @@ namespace quillon {
 /// A rule that the assistant has written, and what it would do in its folder now.
 struct DraftedRule {
     RuleDraft draft;
-    QStringList destinations = {}; ///< the folders that files would go to, as a run finds them
+    QStringList destinations = {}; ///< where files would go, links and ".." followed
     QStringList matches = {};      ///< names of the files that it would catch
     QStringList asks = {};         ///< names of those about which Dobbin would be asked first
     std::size_t tested = 0;        ///< files that it was tried on
