@@ -100,7 +100,7 @@ std::optional<QString> DobbinChat::takeWarning() {
 }
 
 bool DobbinChat::ask(const QString& question, std::function<void(const ChatTurn&)> answered) {
-    ChatTurn turn{.isUser = true, .text = storable(question)};
+    ChatTurn turn{.isUser = true, .text = storable(question), .date = around_.platform.clock.now()};
     if (turn.text.isEmpty())
         return false;
     questions_.push_back({turn.id, turn.text, std::move(answered)});
@@ -128,6 +128,7 @@ QCoro::Task<> DobbinChat::think() {
         if (life.expired() || !answer)
             co_return;
         questions_.pop_front();
+        answer->date = around_.platform.clock.now();
         add(*answer, question.turnID);
         // Whoever hears of it may let this go.
         if (!life.expired() && question.answered)
@@ -222,7 +223,6 @@ Expected<QString> DobbinChat::apply(const QUuid& turnID, std::size_t action) {
 
 /// At the end, unless there is a turn that it comes after.
 void DobbinChat::add(ChatTurn turn, const QUuid& after) {
-    turn.date = around_.platform.clock.now();
     const auto before = std::ranges::find(turns_, after, &ChatTurn::id);
     turns_.insert(before == turns_.end() ? before : before + 1, std::move(turn));
     save();
