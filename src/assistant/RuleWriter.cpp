@@ -4,6 +4,7 @@
 #include "assistant/RuleName.h"
 #include "assistant/RuleWriterActions.h"
 #include "assistant/RuleWriterPrompt.h"
+#include "assistant/ValueWarnings.h"
 #include "assistant/backends/AIError.h"
 #include "engine/RuleChecks.h"
 #include "model/JsonFields.h"
@@ -202,7 +203,7 @@ Expected<RuleDraft> draftFromJson(const QString& answer, const RulePlace& place,
         return std::unexpected(asError({.kind = AIError::Kind::badResponse}));
     draft.rule.name = ruleName(said->name, draft.rule);
     draft.needsConsent = draft.rule.conditions.empty();
-    draft.warnings += validationWarnings(draft.rule);
+    draft.warnings += validationWarnings(draft.rule) + valueWarnings(draft.rule);
     addDestinationWarnings(draft, place, platform);
     return draft;
 }

@@ -31,7 +31,6 @@ bool isAgreed(const RuleDraft& draft, const WriteRuleOptions& options, const Con
                     "same"_s);
         return false;
     }
-    console.out.flush();
     const auto typed =
         console.secretLine("Save it in spite of the warnings? Type yes (not shown): ");
     const bool isYes = typed && QString::fromStdString(*typed).trimmed().toLower() == u"yes";
@@ -87,6 +86,7 @@ ExitCode tell(const DraftedRule& drafted, const DraftPlace& found, const WriteRu
         if (!options.saves)
             lines.add(savingHint(drafted, found)).endLine();
     }
+    console.out.flush(); // before anything is said or asked about it
     if (!options.saves)
         return ExitCode::done;
     const Saving saving = save(drafted.draft, options, console, services);
