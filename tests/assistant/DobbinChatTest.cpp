@@ -1,6 +1,7 @@
 #include "assistant/DobbinChat.h"
 
 #include "assistant/DobbinJudge.h"
+#include "assistant/EntriesShown.h"
 #include "assistant/HelpQuestion.h"
 #include "support/AIBench.h"
 #include "support/AppStoreBench.h"
@@ -94,6 +95,31 @@ protected:
     std::unique_ptr<DobbinChat> chat_;
 };
 
+TEST(EntriesShown, areThoseThatTheAnswerSpeaksOf) {
+    const auto entry = [](const QString& file, const QString& rule, const QString& now = {}) {
+        return LogEntry{.fileName = file, .ruleName = rule, .currentPath = u"/x/"_s + now};
+    };
+    const std::vector<LogEntry> entries{
+        entry(u"a.pdf"_s, u"File bills"_s, u"2026 bill.pdf"_s), entry(u"data.pdf"_s, u"Bills"_s),
+        entry(u"b.pdf"_s, u"Bills"_s), entry(u"c.pdf"_s, u"Bills"_s), entry(u"d"_s, u"Bills"_s)};
+    const struct {
+        QString answer;
+        QString shown;
+    } rows[] = {
+        {u"“A.pdf” went to Bills."_s, u"a.pdf"_s},
+        {u"It is called 2026 bill.pdf now."_s, u"a.pdf"_s},
+        {u"data.pdf, and b.pdf."_s, u"data.pdf b.pdf"_s},
+        {u"“Bills” took them."_s, u"data.pdf b.pdf c.pdf"_s},
+        {u"I found nothing; see xa.pdf.zip or billsb."_s, u""_s},
+    };
+    for (const auto& row : rows) {
+        QStringList shown;
+        for (const LogEntry& each : entriesShown(row.answer, entries))
+            shown.append(each.fileName);
+        EXPECT_EQ(shown.join(u' '), row.shown) << row.answer.toStdString();
+    }
+}
+
 TEST_F(DobbinChatTest, answersFromTheLogAndOffersChangesWithEitherBackend) {
     tidyInvoices(30);
     const QString said = u"invoice7.pdf is in Invoices. Move File late above Move pdf."_s;
@@ -111,7 +137,7 @@ TEST_F(DobbinChatTest, answersFromTheLogAndOffersChangesWithEitherBackend) {
         if (withClaude)
             ai_.useClaude();
         EXPECT_THAT(ask(u"Which pdf invoices did you move?"_s).entries, IsEmpty());
-        const ChatTurn answer = ask(u"Where did the pdf invoices go?"_s);
+        const ChatTurn answer = ask(u"Where did invoice7.pdf and the pdf invoices go?"_s);
         ASSERT_THAT(answer.entries, SizeIs(1));
         EXPECT_EQ(answer.entries[0].fileName, u"invoice7.pdf");
         EXPECT_TRUE(answer.entries[0].canUndo());
@@ -125,9 +151,11 @@ TEST_F(DobbinChatTest, answersFromTheLogAndOffersChangesWithEitherBackend) {
         QJsonArray messages = requests[1].json()[u"messages"_s].toArray();
         const QString last = messages.last()[u"content"_s].toString();
         messages.removeLast();
-        EXPECT_EQ(last.count(QRegularExpression(u"invoice\\d+\\.pdf.*moved to"_s)),
+        const QString first = QString::fromUtf8(requests[0].body);
+        EXPECT_EQ(first.count(QRegularExpression(u"“invoice\\d+\\.pdf” in "_s)),
                   withClaude ? 25 : 10);
-        EXPECT_TRUE(last.endsWith(u"\n\nQuestion: Where did the pdf invoices go?"_s));
+        EXPECT_TRUE(
+            last.endsWith(u"\n\nQuestion: Where did invoice7.pdf and the pdf invoices go?"_s));
         EXPECT_EQ(last.contains(u"User: Which pdf invoices did you move?\nDobbin: Tidied.\n\n"_s),
                   !withClaude);
         QStringList roles;
@@ -251,10 +279,9 @@ TEST_F(DobbinChatTest, losesNothingToABadDiskOrABrokenFile) {
         start();
         EXPECT_THAT(chat_->turns(), IsEmpty());
         const QString warning = chat_->takeWarning().value_or(QString());
-        const auto kept =
-            QRegularExpression(u"kept as (.*/dobbin-chat\\.json\\.unreadable-[-\\d. ()]+),"_s)
-                .match(warning)
-                .captured(1);
+        const auto kept = QRegularExpression(u"kept as (/.*chat\\.json.*\\.unreadable-[-\\d]+),"_s)
+                              .match(warning)
+                              .captured(1);
         std::ifstream file(kept.toStdString());
         EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), broken)
             << warning.toStdString();
