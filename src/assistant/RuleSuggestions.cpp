@@ -98,13 +98,10 @@ bool isGoodDestination(const Weighed& item, const FolderView& view) {
                                view.folder().name().toStdString());
 }
 
-bool isWorthSaying(const Weighed& item, const FolderView& view,
-                   const QSet<std::uint64_t>& dismissed) {
-    const auto isDismissed = [&](std::uint64_t key) { return dismissed.contains(key); };
+bool suits(const Weighed& item, const FolderView& view) {
     const auto inSubfolders = std::size_t(std::ranges::count_if(item.files, isInSubfolder));
-    return item.files.size() >= fewestFiles &&
-           std::ranges::none_of(item.suggestion.keys, isDismissed) &&
-           std::ranges::none_of(item.files, isFolder) && inSubfolders * 2 <= item.files.size() &&
+    return item.files.size() >= fewestFiles && std::ranges::none_of(item.files, isFolder) &&
+           inSubfolders * 2 <= item.files.size() &&
            validationWarnings(item.suggestion.rule).isEmpty() && isGoodDestination(item, view) &&
            !view.isSwitchedOff(item.suggestion.rule, item.files);
 }
@@ -130,17 +127,31 @@ std::vector<RuleSuggestion> chosenSuggestions(const FolderView& view,
     std::vector<Weighed> items = weighed(view, std::move(candidates));
     std::ranges::stable_sort(items, std::greater{}, &Weighed::usefulness);
 
+    enum class Fate : std::uint8_t { open, suggested, turnedDown };
+    std::vector<Fate> fates(view.files().size());
+    const auto countOf = [&](const Weighed& item, Fate fate) {
+        return std::ranges::count_if(item.places, [&](std::size_t i) { return fates[i] == fate; });
+    };
+    const auto isDismissed = [&](const Weighed& item) {
+        return std::ranges::any_of(item.suggestion.keys,
+                                   [&](std::uint64_t key) { return dismissed.contains(key); });
+    };
+    for (const Weighed& item : items)
+        if (isDismissed(item))
+            for (const std::size_t i : item.places)
+                fates[i] = Fate::turnedDown;
+
     std::vector<RuleSuggestion> chosen;
-    std::vector<bool> isTaken(view.files().size());
     for (Weighed& item : items) {
         if (chosen.size() == most)
             break;
-        const bool overlaps =
-            std::ranges::any_of(item.places, [&](std::size_t i) { return isTaken[i]; });
-        if (overlaps || !isWorthSaying(item, view, dismissed))
+        // Whoever turned screenshots down doesn't want the same files as PNG files either.
+        const bool isTurnedDown =
+            isDismissed(item) || countOf(item, Fate::turnedDown) * 2 > std::ssize(item.places);
+        if (isTurnedDown || countOf(item, Fate::suggested) > 0 || !suits(item, view))
             continue;
         for (const std::size_t i : item.places)
-            isTaken[i] = true;
+            fates[i] = Fate::suggested;
         describe(item, view.now());
         chosen.push_back(std::move(item.suggestion));
     }

@@ -23,7 +23,10 @@ namespace {
 constexpr std::size_t fewest = 3;
 constexpr std::size_t mostExtensions = 12;
 constexpr std::size_t mostHosts = 4;
+// Origins are read file by file: of these to find the hosts, and of all to count what one rule
+// takes.
 constexpr std::size_t mostOriginsRead = 2000;
+constexpr std::size_t mostFilesWithOrigins = 20'000;
 constexpr qsizetype longestHost = 100;
 constexpr std::size_t longestExtension = 10;
 
@@ -36,8 +39,8 @@ constexpr QStringView screenshotNames =
 
 // Whole words: "Berechnung" is no "Rechnung".
 constexpr QStringView invoiceNames =
-    u"(?<!\\p{L})(invoice|receipt|rechnung|quittung|facture|factura|fattura|fatura|recibo|factuur|"
-    "kvitto|faktura)s?(?!\\p{L})|請求書|領収書|发票";
+    u"(?<!\\p{L})(invoice|receipt|rechnung|quittung|facture|factura|fattura|recibo)s?(?!\\p{L})|"
+    "請求書|領収書";
 
 constexpr QStringView installerExtensions =
     u"^(dmg|pkg|iso|deb|rpm|appimage|exe|msi|flatpakref|snap)$";
@@ -195,6 +198,8 @@ QString hostOf(const QString& address) {
 }
 
 void addHosts(std::vector<RuleSuggestion>& candidates, const FolderView& view) {
+    if (view.files().size() > mostFilesWithOrigins)
+        return;
     std::vector<const ListedFile*> newest;
     for (const ListedFile* file : view.files())
         if (file->status.type == FileType::regular)

@@ -9,7 +9,7 @@ namespace quillon {
 
 /// The rules that might suit the folder, by topic, and within one the more common before the rarer:
 /// not counted, not checked against each other. Looks at the origin of 2,000 files at most, the
-/// newest.
+/// newest, and of none where there are more than 20,000 files.
 [[nodiscard]] std::vector<RuleSuggestion> suggestionCandidates(const FolderView& view);
 
 /// The rule that puts files from a host, or with extensions, into a subfolder of that name.

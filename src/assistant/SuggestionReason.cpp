@@ -27,6 +27,8 @@ QString ageText(Timestamp oldest, Timestamp now) {
         return u"all from today"_s;
     if (day > today.addDays(-7))
         return u"all from the last days"_s;
+    if (day.year() == today.year() && day.month() == today.month())
+        return u"all from this month"_s;
     const bool namesYear = day <= today.addMonths(-11);
     return u"the oldest from "_s + QLocale::c().toString(day, namesYear ? u"MMMM yyyy" : u"MMMM");
 }
