@@ -132,12 +132,9 @@ std::vector<RuleSuggestion> chosenSuggestions(const FolderView& view,
     const auto countOf = [&](const Weighed& item, Fate fate) {
         return std::ranges::count_if(item.places, [&](std::size_t i) { return fates[i] == fate; });
     };
-    const auto isDismissed = [&](const Weighed& item) {
-        return std::ranges::any_of(item.suggestion.keys,
-                                   [&](std::uint64_t key) { return dismissed.contains(key); });
-    };
+    const auto isDismissed = [&](std::uint64_t key) { return dismissed.contains(key); };
     for (const Weighed& item : items)
-        if (isDismissed(item))
+        if (std::ranges::all_of(item.suggestion.keys, isDismissed))
             for (const std::size_t i : item.places)
                 fates[i] = Fate::turnedDown;
 
@@ -146,8 +143,8 @@ std::vector<RuleSuggestion> chosenSuggestions(const FolderView& view,
         if (chosen.size() == most)
             break;
         // Whoever turned screenshots down doesn't want the same files as PNG files either.
-        const bool isTurnedDown =
-            isDismissed(item) || countOf(item, Fate::turnedDown) * 2 > std::ssize(item.places);
+        const bool isTurnedDown = std::ranges::any_of(item.suggestion.keys, isDismissed) ||
+                                  countOf(item, Fate::turnedDown) * 2 > std::ssize(item.places);
         if (isTurnedDown || countOf(item, Fate::suggested) > 0 || !suits(item, view))
             continue;
         for (const std::size_t i : item.places)

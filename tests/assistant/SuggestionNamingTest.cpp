@@ -7,6 +7,8 @@
 #include "support/StepwiseBackground.h"
 #include "support/SuggestionBench.h"
 
+#include <numeric>
+
 namespace quillon::testing {
 namespace {
 
@@ -192,15 +194,19 @@ TEST(SuggestionMemory, keepsWhatWasDismissedThroughABrokenFile) {
                                .rule = {},
                                .keys = {1, ~std::uint64_t(0)}};
     ASSERT_TRUE(memory.noteShown(path, {shown}, Timestamp(std::chrono::hours(9))));
-    for (std::uint64_t key = 1; key <= 250; ++key)
-        ASSERT_TRUE(memory.dismiss(path, {key, key - 1}, {}));
+    std::vector<std::uint64_t> many(250);
+    std::iota(many.begin(), many.end(), 1);
+    ASSERT_TRUE(memory.dismiss(path, {7, 1000}, {}));
+    ASSERT_TRUE(memory.dismiss(path, many, {}));
+    ASSERT_TRUE(memory.dismiss(path, {7}, {}));
     const auto kept = SuggestionMemory(storage, machine.platform.fileSystem, places).of(path);
     ASSERT_TRUE(kept);
     EXPECT_EQ(kept->shown, std::vector{shown});
     EXPECT_EQ(kept->shownAt, Timestamp(std::chrono::hours(9)));
     EXPECT_EQ(kept->dismissed.size(), 200);
-    EXPECT_TRUE(kept->dismissedKeys().contains(250));
-    for (int i = 0; i < 60; ++i)
+    EXPECT_EQ(kept->dismissedKeys().size(), 200);
+    EXPECT_EQ(kept->dismissed.front(), 7);
+    for (int i = 0; i < 50; ++i)
         ASSERT_TRUE(memory.dismiss(u"/other/%1"_s.arg(i), {1}, {}));
     EXPECT_TRUE(memory.of(path)->dismissed.empty());
 

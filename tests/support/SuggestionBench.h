@@ -23,11 +23,10 @@ struct SuggestionBench {
     /// Makes a file that was written and opened so many days ago; a name with a slash at its end is
     /// a folder.
     void make(const std::string& name, int days = 2) const {
-        if (name.ends_with('/')) {
+        if (name.ends_with('/'))
             machine.makeFolder(name);
-            return;
-        }
-        machine.write(name, "contents");
+        else
+            machine.write(name, "contents");
         age(name, days);
     }
     void makeAll(const std::vector<std::string>& names, int days = 2) const {
