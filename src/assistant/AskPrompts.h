@@ -16,11 +16,13 @@ namespace quillon {
 [[nodiscard]] QString systemPrompt(const QDateTime& now);
 
 /// How long a composed message may be, by estimatedTokens().
-enum class MessageSize : std::size_t {
-    /// With the system prompt, 400 tokens of earlier turns and 400 of answer within 4,096.
-    onDevice = 1800,
-    claude = 24000,
-};
+enum class MessageSize : std::size_t { onDevice = 1800, claude = 24000 };
+
+// What a local model has room for, likewise: its context, of which the system prompt and a message
+// take their part, and what is kept for earlier turns and for the answer.
+inline constexpr std::size_t onDeviceContext = 4096;
+inline constexpr std::size_t onDeviceEarlierTurns = 400;
+inline constexpr std::size_t onDeviceAnswer = 400;
 
 /// What the model gets with a question: the entries, the rules of every folder, the conflicts and
 /// the question, each name and text on a line of its own and cut when long. What doesn't fit is

@@ -17,7 +17,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestQuestion = 1000;
+// In bytes.
+constexpr qsizetype longestQuestion = 1500;
 constexpr qsizetype longestSummary = 240;
 constexpr qsizetype longestDeed = 160;
 constexpr qsizetype longestPlace = 160;
@@ -55,13 +56,11 @@ QString dateOf(const LogEntry& entry) {
                                  u"dddd d MMMM yyyy, HH:mm");
 }
 
-/// The name of the file and of the two folders that lead to it: enough to find it, and not the
-/// whole path, which names the user.
-QString placeOf(const QString& path) {
-    return promptLine(path.split(u'/', Qt::SkipEmptyParts)
-                          .mid(std::max<qsizetype>(0, path.count(u'/') - 3))
-                          .join(u'/'),
-                      longestPlace);
+/// The names of the last two folders on the way to the file: enough to find it, and not the whole
+/// path, which names the user.
+QString folderOf(const QString& path) {
+    const QStringList names = path.section(u'/', 0, -2).split(u'/', Qt::SkipEmptyParts);
+    return promptLine(names.last(std::min<qsizetype>(2, names.size())).join(u'/'), longestPlace);
 }
 
 QString lineOf(const LogEntry& entry) {
@@ -69,17 +68,30 @@ QString lineOf(const LogEntry& entry) {
                    u"” in "_s + promptName(entry.folderName) + u", rule “"_s +
                    promptName(entry.ruleName) + u"”: "_s +
                    promptLine(entry.actionSummary, longestDeed);
-    if (entry.trashedPath)
+    if (entry.trashedPath) {
         line += u"; now in the Trash"_s;
-    else if (entry.currentPath && entry.currentPath != entry.originalPath)
-        line += u"; now at "_s + placeOf(*entry.currentPath);
+    } else if (entry.currentPath && entry.currentPath != entry.originalPath) {
+        line += u"; now in "_s + folderOf(*entry.currentPath);
+        if (const QString name = entry.currentPath->section(u'/', -1); name != entry.fileName)
+            line += u" as “"_s + promptFileName(name) + u'”';
+    }
     return entry.isError ? line + u" (something went wrong)"_s : line;
+}
+
+/// The question within a third of the room.
+QString questionWithin(const QString& question, std::size_t most) {
+    qsizetype bytes = longestQuestion;
+    QString line = promptLine(question, bytes);
+    for (; estimatedTokens(line) > most / 3 && bytes > 3; bytes = bytes * 3 / 4)
+        line = promptLine(question, bytes);
+    return line;
 }
 
 class Composer {
 public:
-    Composer(const QString& question, const std::vector<LogEntry>& entries)
-        : question_(promptLine(question, longestQuestion))
+    Composer(const QString& question, const std::vector<LogEntry>& entries, std::size_t most)
+        : most_(most)
+        , question_(questionWithin(question, most))
         , plainQuestion_(plainText(question_))
         , entries_(entries) {}
 
@@ -119,9 +131,9 @@ public:
                 conflicts[i].sentence() + u'\n');
     }
 
-    QString message(std::size_t most, bool hasFolders) {
+    QString message(bool hasFolders) {
         const QString ending = u"\n\nQuestion: "_s + question_;
-        fill(most - std::min(most, estimatedTokens(frame) + estimatedTokens(ending)));
+        fill(most_ - std::min(most_, estimatedTokens(frame) + estimatedTokens(ending)));
         const QString activity = textOf(activity_);
         QString text =
             u"Activity:"_s + (activity.isEmpty() ? u"\n(no matching activity)"_s : activity);
@@ -189,6 +201,7 @@ private:
         return text;
     }
 
+    const std::size_t most_;
     const QString question_;
     const QString plainQuestion_;
     const std::vector<LogEntry>& entries_;
@@ -200,12 +213,12 @@ private:
 QString compose(const QString& question, const std::vector<LogEntry>& entries,
                 const std::vector<WatchedFolder>& folders,
                 const std::vector<RuleConflict>& conflicts, MessageSize most) {
-    Composer composer(question, entries);
+    Composer composer(question, entries, std::size_t(most));
     composer.addEntries();
     for (const WatchedFolder& folder : folders)
         composer.addFolder(folder, folders.size() == 1);
     composer.addConflicts(conflicts);
-    return composer.message(std::size_t(most), !folders.empty());
+    return composer.message(!folders.empty());
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "assistant/DobbinAction.h"
 
 #include "assistant/PlainLine.h"
+#include "assistant/PromptLine.h"
 #include "assistant/RawAction.h"
 #include "model/JsonFields.h"
 #include "model/JsonWriter.h"
@@ -39,15 +40,21 @@ QStringView withoutQuotes(QStringView name) {
     return name;
 }
 
-/// The first one of that name, letter case ignored.
+/// The first one of that name, letter case ignored; else the first that was shown to the model so.
 template <typename Named>
 const Named* find(const std::vector<Named>& all, const QString& name) {
     const QStringView wanted = withoutQuotes(name);
     if (wanted.isEmpty())
         return nullptr;
-    const auto found = std::ranges::find_if(all, [&](const Named& one) {
-        return wanted.compare(nameOf(one), Qt::CaseInsensitive) == 0;
-    });
+    const auto isWanted = [&](QStringView other) {
+        return wanted.compare(other, Qt::CaseInsensitive) == 0;
+    };
+    auto found = std::ranges::find_if(all, [&](const Named& one) { return isWanted(nameOf(one)); });
+    if (found == all.end())
+        found = std::ranges::find_if(all, [&](const Named& one) {
+            const QString shown = promptName(nameOf(one));
+            return isWanted(withoutQuotes(shown));
+        });
     return found == all.end() ? nullptr : &*found;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
@@ -53,10 +55,12 @@ const QSet<QString>& stopWords() {
 } // namespace
 
 QString plainText(const QString& text) {
+    const bool isAscii = std::ranges::all_of(text, [](QChar c) { return c < u'\x80'; });
+    const QString open = isAscii ? text : text.normalized(QString::NormalizationForm_KD);
     QString plain;
-    plain.reserve(text.size());
-    for (const QChar c : text.normalized(QString::NormalizationForm_KD))
-        if (c.category() != QChar::Mark_NonSpacing && !isApostrophe(c))
+    plain.reserve(open.size());
+    for (const QChar c : open)
+        if (!isApostrophe(c) && (isAscii || c.category() != QChar::Mark_NonSpacing))
             plain += c;
     return plain.toCaseFolded();
 }

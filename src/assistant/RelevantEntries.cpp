@@ -5,6 +5,7 @@
 #include "engine/KindTables.h"
 
 #include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,7 @@ constexpr double wholeName = 2;   ///< "Setup.dmg" itself, against a word of a n
 constexpr double everyPart = 1.2; ///< "Setup.dmg" in "Setup 2.dmg"
 constexpr double beginning = 0.7; ///< "inv" of "invoice"
 constexpr double within = 0.5;    ///< "voice" of "invoice"
+constexpr std::size_t mostQuoted = 10;
 constexpr qsizetype shortestBeginning = 3;
 constexpr qsizetype shortestWithin = 4;
 
@@ -167,7 +169,7 @@ struct Indexed {
         , summary(logged.actionSummary)
         , destination(destinationOf(logged))
         , folder(logged.folderName)
-        , kind(kindByExtension(Field(logged.fileName).plain.section(u'.', -1))) {}
+        , kind(kindByExtension(name.plain.section(u'.', -1))) {}
 
     static QString newNameOf(const LogEntry& logged) {
         return logged.currentPath ? logged.currentPath->section(u'/', -1) : QString();
@@ -267,10 +269,25 @@ bool isWithin(const LogEntry& entry, const AskedSpan& span) {
 
 } // namespace
 
+/// A name in double quotation marks is one thing to look for, whatever its words mean elsewhere.
+std::vector<Keyword> takeQuoted(QString& question) {
+    static const QRegularExpression quoted(u"[“”„\"«»]([^“”„\"«»]{2,200})[“”\"«»]"_s);
+    std::vector<Keyword> keywords;
+    for (auto found = quoted.match(question); found.hasMatch() && keywords.size() < mostQuoted;
+         found = quoted.match(question)) {
+        const QString name = plainText(found.captured(1)).trimmed();
+        question.replace(found.capturedStart(), found.capturedLength(), u' ');
+        if (Keyword keyword = keywordOf(name); !keyword.parts.isEmpty())
+            keywords.push_back(std::move(keyword));
+    }
+    return keywords;
+}
+
 std::vector<LogEntry> relevantEntries(const QString& question, const std::vector<LogEntry>& logs,
                                       const QDateTime& now, std::size_t limit) {
-    const TimeInQuestion time = timeInQuestion(questionWords(question), now);
-    std::vector<Keyword> keywords;
+    QString unquoted = question;
+    std::vector<Keyword> keywords = takeQuoted(unquoted);
+    const TimeInQuestion time = timeInQuestion(questionWords(unquoted), now);
     for (const QString& word : time.otherWords)
         if (!isStopWord(word) && !(time.wantsLatest && word.size() < 3 && word.toInt() > 0))
             keywords.push_back(keywordOf(word));

@@ -117,11 +117,13 @@ QStringList namesOf(const std::vector<LogEntry>& entries) {
 TEST(RelevantEntriesTest, ChoosesWhatAQuestionIsAbout) {
     const std::vector<LogEntry> log = madeLog();
     ASSERT_EQ(log.size(), 400U);
-    const std::array<Row, 48> rows{{
+    const std::array<Row, 50> rows{{
         // By name.
         {u"Where did Setup.dmg go?"_s, {u"Setup.dmg"_s, u"Setup 2.dmg"_s}},
         {u"Why wasn't setup.DMG trashed?"_s, {u"Setup.dmg"_s, u"Setup 2.dmg"_s}},
         {u"why was “Setup 2.dmg” thrown away"_s, {u"Setup 2.dmg"_s}},
+        {u"where is “holiday itinerary.docx”?"_s, {u"Holiday Itinerary.docx"_s}},
+        {u"What about \"Screenshot 2026 at 1001.png\"?"_s, {u"Screenshot 2026 at 1001.png"_s}},
         {u"where's my recu cafe"_s, {u"Reçu Café.pdf"_s}},
         {u"Where is my bank statement?"_s, {u"BankStatement-April.pdf"_s}},
         {u"Where did the bank statements from April go?"_s, {u"BankStatement-April.pdf"_s}},
