@@ -125,8 +125,9 @@ TEST_F(AskVerb, runsFoldersWritesRulesAndKnowsWhatHasGone) {
     EXPECT_EQ(refused.code, ExitCode::someFailed) << "the model's rule can't be understood";
     EXPECT_THAT(refused.err, Not(IsEmpty()));
     server.play("/api/chat", ModelServer::chatAnswer(writtenRule));
+    bench.write("in/a bill.txt", "owed");
     for (int time = 0; time < 2; ++time)
-        EXPECT_THAT(change("2").out, AllOf(HasSubstr("Would catch none of 0 files"),
+        EXPECT_THAT(change("2").out, AllOf(HasSubstr("Would catch 1 of 1 file: a bill.txt"),
                                            HasSubstr("saved: quillon write-rule " + bench.at("in") +
                                                      " 'Move PDFs to \"My Bills\"' --save\n")));
     EXPECT_THAT(bench.run({"rule", "list", "--folder", "@in"}).out, Not(HasSubstr("Bills")));
