@@ -16,7 +16,7 @@ namespace quillon {
 [[nodiscard]] QString systemPrompt(const QDateTime& now);
 
 /// How long a composed message may be, by estimatedTokens().
-enum class MessageSize : std::size_t { onDevice = 1800, claude = 24000 };
+enum class MessageSize : std::size_t { onDevice = 2300, claude = 24000 };
 
 // What a local model has room for, likewise: its context, of which the system prompt and a message
 // take their part, and what is kept for earlier turns and for the answer.
