@@ -1,11 +1,11 @@
 #include "assistant/TimeSpanInQuestion.h"
 
 #include "assistant/QuestionWords.h"
+#include "assistant/TimeWords.h"
 
 #include <QTimeZone>
 
 #include <algorithm>
-#include <array>
 
 namespace quillon {
 
@@ -15,64 +15,6 @@ namespace {
 
 constexpr qint64 minute = 60;
 constexpr qint64 hour = 60 * minute;
-
-/// The place of the word in a list of words, from 1; 0 for a word that isn't in it.
-int placeIn(const QString& word, QStringView list) {
-    const auto words = list.split(u' ');
-    const auto found = std::ranges::find_if(words, [&](QStringView one) { return one == word; });
-    return found == words.end() ? 0 : int(found - words.begin()) + 1;
-}
-
-int weekdayOf(const QString& word) {
-    const int day =
-        placeIn(singular(word), u"monday tuesday wednesday thursday friday saturday sunday");
-    if (day > 0)
-        return day;
-    static const std::array<QStringView, 7> shortNames{
-        u"mon", u"tue tues", u"wed", u"thu thur thurs", u"fri", u"sat", u"sun"};
-    for (std::size_t i = 0; i < shortNames.size(); ++i)
-        if (placeIn(word, shortNames[i]) > 0)
-            return int(i) + 1;
-    return 0;
-}
-
-bool isShortWeekday(const QString& word) {
-    return weekdayOf(word) > 0 && word.size() < 6;
-}
-
-int monthOf(const QString& word) {
-    const int month = placeIn(word, u"january february march april may june july august september "
-                                    "october november december");
-    return month > 0 ? month
-                     : placeIn(word == u"sept" ? u"sep"_s : word,
-                               u"jan feb mar apr may jun jul aug sep oct nov dec");
-}
-
-int numberOf(const QString& word) {
-    if (placeIn(word, u"a an") > 0)
-        return 1;
-    if (word == u"couple")
-        return 2;
-    if (const int number = placeIn(word, u"one two three four five six seven eight nine ten"))
-        return number;
-    const bool isShort = word.size() <= 3;
-    return isShort ? std::max(0, word.toInt()) : 0;
-}
-
-/// "12", "12th"
-int dayOf(const QString& word) {
-    QString digits = word;
-    for (const QStringView ending : {u"st", u"nd", u"rd", u"th"})
-        if (word.endsWith(ending))
-            digits.chop(2);
-    const int day = digits.size() <= 2 ? digits.toInt() : 0;
-    return day >= 1 && day <= 31 ? day : 0;
-}
-
-int yearOf(const QString& word) {
-    const int year = word.size() == 4 ? word.toInt() : 0;
-    return year >= 1970 && year < 2200 ? year : 0;
-}
 
 /// A part of the words, and the time that it stands for.
 struct Found {
