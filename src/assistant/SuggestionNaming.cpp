@@ -74,30 +74,45 @@ std::optional<QString> folderName(const QJsonValue& said) {
     return legal == *cleaned ? cleaned : std::nullopt;
 }
 
-/// A part of a model's answer: suggestions that are to share a folder.
+/// What a model's answer puts together.
 class Answered {
 public:
+    struct Folder {
+        QString name;
+        std::vector<std::size_t> places; ///< of suggestions that are to share it
+    };
+
     explicit Answered(const std::vector<RuleSuggestion>& suggestions)
         : suggestions_(suggestions), groups_(groupsOf(suggestions)) {}
 
-    /// The places of the groups, where they are known, can share a folder and weren't used before.
-    [[nodiscard]] std::vector<std::size_t> take(const QJsonArray& ids) {
-        std::vector<std::size_t> places;
+    /// Nothing of it counts unless all of the groups are known, weren't used before and can share a
+    /// folder, also with those that have one of that name already.
+    void take(const QString& name, const QJsonArray& ids) {
+        const auto found = std::ranges::find_if(folders_, [&](const Folder& folder) {
+            return folder.name.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        Folder folder = found == folders_.end() ? Folder{name, {}} : *found;
+        const std::size_t before = folder.places.size();
         for (const QJsonValue& id : ids) {
             const auto place = placeOf(id.toString());
-            if (!place || used_.contains(*place) ||
-                std::ranges::find(places, *place) != places.end())
-                return {};
-            places.push_back(*place);
+            if (!place || used_.contains(*place) || std::ranges::count(folder.places, *place) > 0)
+                return;
+            folder.places.push_back(*place);
         }
         const auto isExtension = [&](std::size_t place) {
             return suggestions_[place].topic == SuggestionTopic::extension;
         };
-        if (places.size() > 1 && !std::ranges::all_of(places, isExtension))
-            return {};
-        used_.unite({places.begin(), places.end()});
-        return places;
+        if (folder.places.size() == before ||
+            (folder.places.size() > 1 && !std::ranges::all_of(folder.places, isExtension)))
+            return;
+        used_.unite({folder.places.begin(), folder.places.end()});
+        if (found == folders_.end())
+            folders_.push_back(std::move(folder));
+        else
+            *found = std::move(folder);
     }
+
+    [[nodiscard]] const std::vector<Folder>& folders() const { return folders_; }
 
 private:
     [[nodiscard]] std::optional<std::size_t> placeOf(const QString& id) const {
@@ -110,6 +125,7 @@ private:
     const std::vector<RuleSuggestion>& suggestions_;
     std::vector<std::size_t> groups_;
     QSet<std::size_t> used_;
+    std::vector<Folder> folders_;
 };
 
 /// What these become under one name.
@@ -150,17 +166,13 @@ namedSuggestions(const std::vector<RuleSuggestion>& suggestions, const QString& 
                  const WatchedFolder& folder) {
     const auto json = parseJson(answer.toUtf8());
     Answered answered(suggestions);
-    std::vector<RuleSuggestion> result;
     const QJsonArray folders = json ? json->toObject().value("folders"_L1).toArray() : QJsonArray();
-    for (const QJsonValue& said : folders) {
-        const auto name = folderName(said.toObject().value("folder"_L1));
-        const std::vector<std::size_t> places =
-            name ? answered.take(said.toObject().value("groups"_L1).toArray())
-                 : std::vector<std::size_t>();
-        if (places.empty())
-            continue;
-        result.push_back(joined(suggestions, places, *name, folder));
-    }
+    for (const QJsonValue& said : folders)
+        if (const auto name = folderName(said.toObject().value("folder"_L1)))
+            answered.take(*name, said.toObject().value("groups"_L1).toArray());
+    std::vector<RuleSuggestion> result;
+    for (const auto& [name, places] : answered.folders())
+        result.push_back(joined(suggestions, places, name, folder));
     if (result.empty())
         return failure(ErrorKind::invalid, u"The model's answer is not what was asked for"_s);
     result.insert(result.end(), suggestions.begin(), suggestions.end());

@@ -37,11 +37,6 @@ struct Place {
     bool isWatched = false;
 };
 
-SuggestionMemory memoryOf(Services& services) {
-    return {services.storage(), services.platform().fileSystem,
-            StorePlaces(services.platform().folders.data)};
-}
-
 std::expected<Place, ExitCode> placeAt(const std::string& path, const Console& console,
                                        Services& services) {
     const auto store = services.viewStore();
@@ -71,7 +66,7 @@ std::expected<Place, ExitCode> placeAt(const std::string& path, const Console& c
 
 /// What is remembered of the folder. A file that can't be read is said, and costs nothing else.
 RememberedSuggestions remembered(const QString& path, const Console& console, Services& services) {
-    auto found = memoryOf(services).of(path);
+    auto found = services.suggestionMemory().of(path);
     if (found)
         return std::move(*found);
     console.say(u"What was suggested before can't be read: "_s + found.error().message);
@@ -123,8 +118,8 @@ ExitCode show(const SuggestOptions& options, const Console& console, Services& s
         shownOf(named(chosenSuggestions(*view, suggestionCandidates(*view), dismissed), *view,
                       dismissed, console, services));
     if (!suggestions.empty() || !before.shown.empty()) {
-        const auto kept =
-            memoryOf(services).noteShown(path, suggestions, services.platform().clock.now());
+        const auto kept = services.suggestionMemory().noteShown(path, suggestions,
+                                                                services.platform().clock.now());
         if (!kept)
             console.say(u"What is suggested can't be remembered, so that --add and --dismiss "
                         "won't know it: "_s +
@@ -194,8 +189,8 @@ ExitCode dismiss(const SuggestOptions& options, const Console& console, Services
         *options.dismiss, remembered(folder.path, console, services), options.folder, services);
     if (!suggestion)
         return sayRefusal(suggestion.error(), console);
-    const auto kept =
-        memoryOf(services).dismiss(folder.path, suggestion->keys, services.platform().clock.now());
+    const auto kept = services.suggestionMemory().dismiss(folder.path, suggestion->keys,
+                                                          services.platform().clock.now());
     if (!kept) {
         console.say(u"It can't be remembered that “%1” is not wanted: %2"_s.arg(
             suggestion->rule.name, kept.error().message));

@@ -4,6 +4,8 @@
 #include "assistant/DobbinJudge.h"
 #include "assistant/DobbinResolver.h"
 #include "assistant/FileText.h"
+#include "assistant/FolderSuggestions.h"
+#include "assistant/SuggestionMemory.h"
 #include "assistant/backends/AIManager.h"
 #include "platform/FileNames.h"
 #include "platform/linux/BsdtarArchives.h"
@@ -74,6 +76,7 @@ struct Services::Machine {
                       .folders = folders};
     IniSettings settings{joinPath(folders.config, "Quillon.conf")};
     DobbinJudge judge{fileSystem, clock};
+    SuggestionMemory suggestionMemory{storage, fileSystem, StorePlaces(folders.data)};
 };
 
 struct Services::Assistant {
@@ -97,7 +100,8 @@ struct Services::OpenStore {
     DobbinResolver resolver;
     AppStore::Life life;
     AppStore store;
-    std::unique_ptr<DobbinChat> chat; ///< made when it is first asked for
+    std::unique_ptr<DobbinChat> chat;               ///< made when it is first asked for
+    std::unique_ptr<FolderSuggestions> suggestions; ///< likewise
 
     OpenStore(Services& services, std::unique_ptr<StoreSession> session, AppStore::Life itsLife)
         : texts(services.machine_->platform, reader)
@@ -142,6 +146,10 @@ RuleEngine Services::engine(EngineSettings settings) {
 
 const DobbinJudge& Services::judge() const {
     return machine_->judge;
+}
+
+SuggestionMemory& Services::suggestionMemory() {
+    return machine_->suggestionMemory;
 }
 
 StoreSession::Services Services::storeServices() {
@@ -204,6 +212,14 @@ AIManager& Services::assistant() {
     if (!assistant_)
         assistant_ = std::make_unique<Assistant>(*machine_);
     return assistant_->manager;
+}
+
+FolderSuggestions& Services::suggestions() {
+    if (!store_->suggestions)
+        store_->suggestions = std::make_unique<FolderSuggestions>(
+            machine_->platform, machine_->judge, machine_->suggestionMemory, machine_->settings,
+            store_->background, [this]() -> ModelAccess& { return assistant(); });
+    return *store_->suggestions;
 }
 
 DobbinChat& Services::chat() {

@@ -50,6 +50,9 @@ TEST(SuggestionNaming, takesNothingButNamesAndGroups) {
         {R"({"folders":[{"groups":["g2"],"folder":"../../.ssh/keys","actions":["Move to Trash"],
                          "destination":"/etc"}]})",
          {screenshots, asCounted[1], u"File ssh-keys → ssh-keys: 4"_s, asCounted[3]}},
+        {R"({"folders":[{"groups":["g3"],"folder":"Pictures"},{"groups":["g2"],"folder":"pictures"},
+                        {"groups":["g1"],"folder":"Pictures"}]})",
+         {screenshots, u"File Pictures → Pictures: 7"_s, asCounted[1]}},
         // A folder named like the one that it would be in, or like a file.
         {R"({"folders":[{"groups":["g2"],"folder":"Work"},{"groups":["g3"],"folder":"1.txt"}]})",
          asCounted},
