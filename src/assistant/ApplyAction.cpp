@@ -37,7 +37,7 @@ Expected<QString> turn(bool on, const DobbinAction& action, const WatchedFolder&
     const QString name = quoted(rule->name);
     if (rule->isEnabled == on)
         return u"%1 is %2 already"_s.arg(name, state);
-    store.setRuleEnabled(on, rule->id, folder.id);
+    store.setRuleEnabled(on, *action.ruleID, action.folderID);
     return saved(store, u"%1 is now %2"_s.arg(name, state));
 }
 
@@ -53,7 +53,7 @@ Expected<QString> reorder(const DobbinAction& action, const WatchedFolder& folde
     reorderRules(sorted, order);
     if (sorted == folder.rules)
         return u"The rules of %1 are in that order already"_s.arg(name);
-    store.reorderRules(folder.id, order);
+    store.reorderRules(action.folderID, order);
     return saved(store, u"The rules of %1 are in their new order"_s.arg(name));
 }
 
@@ -73,7 +73,7 @@ Expected<QString> apply(const DobbinAction& action, AppStore& store) {
         return reorder(action, *folder, store);
     case Kind::runFolder: {
         const QString name = folder->name();
-        store.runRules(folder->id, RunCause::asked);
+        store.runRules(action.folderID, RunCause::asked);
         return u"%1 is being tidied"_s.arg(name);
     }
     case Kind::writeRule:

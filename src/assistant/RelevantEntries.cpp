@@ -258,8 +258,12 @@ std::vector<LogEntry> newest(const std::vector<LogEntry>& logs, std::size_t limi
     return chosen;
 }
 
+/// The nearest one for a moment that no entry can have, such as 900 years ago.
 Timestamp momentOf(const QDateTime& moment) {
-    return Timestamp(std::chrono::milliseconds(moment.toMSecsSinceEpoch()));
+    using std::chrono::milliseconds;
+    constexpr auto first = std::chrono::ceil<milliseconds>(Timestamp::min()).time_since_epoch();
+    constexpr auto last = std::chrono::floor<milliseconds>(Timestamp::max()).time_since_epoch();
+    return Timestamp(std::clamp(milliseconds(moment.toMSecsSinceEpoch()), first, last));
 }
 
 bool isWithin(const LogEntry& entry, const AskedSpan& span) {
