@@ -73,12 +73,17 @@ Expected<SuggestionMemory::Folders> SuggestionMemory::read() const {
     return fields.result(std::move(folders));
 }
 
+QString SuggestionMemory::resolved(const QString& path) const {
+    return QString::fromStdString(fileSystem_.resolved(path.toStdString()));
+}
+
 Expected<RememberedSuggestions> SuggestionMemory::of(const QString& path) const {
     const auto folders = read();
     if (!folders)
         return std::unexpected(folders.error());
-    const auto found = std::ranges::find(*folders, path, &RememberedSuggestions::path);
-    return found == folders->end() ? RememberedSuggestions{.path = path} : *found;
+    const QString place = resolved(path);
+    const auto found = std::ranges::find(*folders, place, &RememberedSuggestions::path);
+    return found == folders->end() ? RememberedSuggestions{.path = place} : *found;
 }
 
 SuggestionMemory::Kept
@@ -118,9 +123,10 @@ SuggestionMemory::change(const QString& path, Timestamp now,
         warning = *kept + u", and what was dismissed is suggested again"_s;
         folders = Folders{};
     }
-    auto found = std::ranges::find(*folders, path, &RememberedSuggestions::path);
+    const QString place = resolved(path);
+    auto found = std::ranges::find(*folders, place, &RememberedSuggestions::path);
     if (found == folders->end())
-        found = folders->insert(folders->end(), {.path = path});
+        found = folders->insert(folders->end(), {.path = place});
     edit(*found);
     std::rotate(folders->begin(), found, found + 1);
     if (folders->size() > mostFolders)

@@ -17,7 +17,7 @@ namespace quillon {
 
 /// What is remembered of the suggestions for one folder.
 struct RememberedSuggestions {
-    QString path;                              ///< absolute
+    QString path;                              ///< absolute, links resolved
     std::vector<std::uint64_t> dismissed = {}; ///< by suggestionKey(), newest first
     std::vector<RuleSuggestion> shown = {};    ///< as they were shown last
     std::optional<Timestamp> shownAt = {};
@@ -52,6 +52,7 @@ public:
 private:
     using Folders = std::vector<RememberedSuggestions>;
 
+    [[nodiscard]] QString resolved(const QString& path) const;
     [[nodiscard]] Expected<Folders> read() const;
     [[nodiscard]] Kept change(const QString& path, Timestamp now,
                               const std::function<void(RememberedSuggestions&)>& edit);
