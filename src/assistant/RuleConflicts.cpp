@@ -138,7 +138,9 @@ public:
             return;
         const auto place = placeAway(entry, *folder);
         const auto earlier = std::ranges::find(folder->rules, entry.ruleName, &Rule::name);
-        if (!place || earlier == folder->rules.end() || !earlier->isEnabled)
+        // Of two rules of one name it can't be told which one acted.
+        if (!place || std::ranges::count(folder->rules, entry.ruleName, &Rule::name) != 1 ||
+            !earlier->isEnabled)
             return;
         const auto status = platform_.fileSystem.status(place->toStdString());
         const auto first = std::size_t(earlier - folder->rules.begin()) + 1;

@@ -86,6 +86,8 @@ const Case cases[] = {
     {"the later has no conditions", 0, [](Scene& s) { s.later().conditions.clear(); }},
     {"the order has changed", 0, [](Scene& s) { std::swap(s.earlier(), s.later()); }},
     {"the rule that acted has gone", 0, [](Scene& s) { s.entry.ruleName = u"Other"_s; }},
+    {"two rules have the name of the one that acted", 0,
+     [](Scene& s) { s.folder.rules.push_back(s.earlier()); }},
     {"of another folder", 0, [](Scene& s) { s.entry.folderID = QUuid::createUuid(); }},
     {"of no folder", 0, [](Scene& s) { s.entry.folderID.reset(); }},
     {"it was not moved", 0,
