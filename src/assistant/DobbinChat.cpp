@@ -4,6 +4,7 @@
 #include "assistant/ChatHistory.h"
 #include "assistant/EntriesShown.h"
 #include "assistant/PlainLine.h"
+#include "assistant/backends/AIError.h"
 #include "assistant/backends/AIManager.h"
 #include "assistant/backends/Later.h"
 #include "store/SettingsTable.h"
@@ -171,11 +172,13 @@ QCoro::Task<std::optional<ChatTurn>> DobbinChat::answerOfModel(QUuid questionID,
     const Expected<QString> answer = co_await around_.assistant().send(std::move(request));
     if (life.expired())
         co_return std::nullopt;
-    ChatTurn turn;
-    turn.isError = !answer;
-    turn.text = storable(answer ? *answer : answer.error().message);
-    if (!answer)
+    ChatTurn turn{.text = storable(answer.value_or(QString()))};
+    turn.isError = turn.text.isEmpty();
+    if (turn.isError) {
+        const Error muddled = asError(AIError{.kind = AIError::Kind::badResponse, .detail = {}});
+        turn.text = storable(answer ? muddled.message : answer.error().message);
         co_return turn;
+    }
     turn.entries = entriesShown(turn.text, material->entries);
     auto suggesting = suggestedChanges(material, turn);
     turn.actions = co_await suggesting;

@@ -96,17 +96,7 @@ void printText(const ChatTurn& answer, const Console& console) {
     }
 }
 
-} // namespace
-
-ExitCode askCommand(const AskOptions& options, const Console& console, Services& services) {
-    const auto store = openStoreFor(console, services);
-    if (!store)
-        return store.error();
-    if (const auto warning = store->call([&](AppStore&) { return services.chat().takeWarning(); }))
-        console.say(*warning);
-    if (options.number)
-        return carryOutOffer(*options.number, options.json, *store, console, services);
-
+ExitCode askDobbin(const AskOptions& options, const Console& console, Services& services) {
     const QString question = QString::fromStdString(options.question);
     const auto answer = answerTo(question, console, services);
     if (!answer) {
@@ -119,11 +109,26 @@ ExitCode askCommand(const AskOptions& options, const Console& console, Services&
         printJson(question, *answer, console.out);
     else if (!answer->isError)
         printText(*answer, console);
+    return answer->isError ? ExitCode::someFailed : ExitCode::done;
+}
+
+} // namespace
+
+ExitCode askCommand(const AskOptions& options, const Console& console, Services& services) {
+    const auto store = openStoreFor(console, services);
+    if (!store)
+        return store.error();
+    if (const auto warning = store->call([&](AppStore&) { return services.chat().takeWarning(); }))
+        console.say(*warning);
+    const ExitCode code =
+        options.number ? carryOutOffer(*options.number, options.json, *store, console, services)
+                       : askDobbin(options, console, services);
     const auto unsaved = store->call([&](AppStore&) { return services.chat().lastSaveError(); });
-    if (unsaved)
-        console.say(u"The conversation can't be saved (%1); the next question tries again"_s.arg(
-            unsaved->message));
-    return answer->isError || unsaved ? ExitCode::someFailed : ExitCode::done;
+    if (!unsaved)
+        return code;
+    console.say(u"The conversation can't be saved (%1); the next question tries again"_s.arg(
+        unsaved->message));
+    return code == ExitCode::done ? ExitCode::someFailed : code;
 }
 
 } // namespace quillon

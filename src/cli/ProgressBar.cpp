@@ -19,7 +19,7 @@ ProgressBar::ProgressBar(std::ostream& terminal, const Clock& clock, bool isShow
     , nextDrawing_(isShown ? clock.now() + patience : Timestamp{}) {}
 
 ProgressBar::~ProgressBar() {
-    if (isDrawn_)
+    if (!drawn_.empty())
         (terminal_ << "\r\x1b[K").flush();
 }
 
@@ -48,7 +48,9 @@ void ProgressBar::draw(const std::string& line) {
     if (now < nextDrawing_)
         return;
     nextDrawing_ = now + betweenDrawings;
-    isDrawn_ = true;
+    if (line == drawn_)
+        return;
+    drawn_ = line;
     terminal_ << "\r\x1b[K" << line;
     terminal_.flush();
 }

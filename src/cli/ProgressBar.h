@@ -28,7 +28,7 @@ private:
     std::ostream& terminal_;
     const Clock& clock_;
     bool isShown_;
-    bool isDrawn_ = false;
+    std::string drawn_ = {}; ///< what stands there
     Timestamp nextDrawing_;
 };
 

@@ -230,6 +230,8 @@ TEST_F(DobbinChatTest, saysWhyThereIsNoAnswerAndGoesOn) {
     ask(u"c?"_s);
     const QByteArray sent = ai_.server.requests("/api/chat").last().body;
     EXPECT_TRUE(sent.contains("User: b?") && !sent.contains("a?")) << sent.constData();
+    ai_.server.play("/api/chat", ModelServer::chatAnswer(u" \n"_s));
+    EXPECT_TRUE(ask(u"blank?"_s).isError);
     ai_.server.haveModels({});
     EXPECT_TRUE(ask(u"d?"_s).text.contains(u"quillon model pull"_s));
 }
