@@ -152,6 +152,12 @@ void addConditions(RuleDraft& draft, const SaidRule& said) {
               "so the rule may catch other files than you meant."_s);
 }
 
+/// Without conditions it never matches; every text has an empty one in it.
+bool catchesNothingOrAll(const Rule& rule) {
+    return rule.conditions.empty() ||
+           std::ranges::any_of(rule.conditions, &QString::isEmpty, &Condition::value);
+}
+
 void addActions(RuleDraft& draft, const SaidRule& said, const RulePlace& place) {
     std::vector<RuleAction>& actions = draft.rule.actions;
     actions.clear();
@@ -202,8 +208,9 @@ Expected<RuleDraft> draftFromJson(const QString& answer, const RulePlace& place,
     if (draft.rule.actions.empty())
         return std::unexpected(asError({.kind = AIError::Kind::badResponse}));
     draft.rule.name = ruleName(said->name, draft.rule);
-    draft.needsConsent = draft.rule.conditions.empty();
-    draft.warnings += validationWarnings(draft.rule) + valueWarnings(draft.rule);
+    const QStringList misunderstood = valueWarnings(draft.rule);
+    draft.needsConsent = !misunderstood.isEmpty() || catchesNothingOrAll(draft.rule);
+    draft.warnings += validationWarnings(draft.rule) + misunderstood;
     addDestinationWarnings(draft, place, platform);
     return draft;
 }

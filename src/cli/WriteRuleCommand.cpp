@@ -8,6 +8,7 @@
 #include "store/Sentences.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace quillon {
 
@@ -26,16 +27,14 @@ struct Saving {
 bool isAgreed(const RuleDraft& draft, const WriteRuleOptions& options, const Console& console) {
     if (!draft.needsConsent || options.isAgreed)
         return true;
-    if (options.json || !console.showsProgress) {
-        console.say(u"The rule is not saved because of its warnings; --anyway saves it all the "
-                    "same"_s);
-        return false;
-    }
-    const auto typed =
-        console.secretLine("Save it in spite of the warnings? Type yes (not shown): ");
+    std::optional<std::string> typed;
+    if (!options.json && console.showsProgress)
+        typed = console.secretLine("Save it in spite of the warnings? Type yes (not shown): ");
     const bool isYes = typed && QString::fromStdString(*typed).trimmed().toLower() == u"yes";
     if (!isYes)
-        console.say(u"The rule is not saved"_s);
+        console.say(typed ? u"The rule is not saved"_s
+                          : u"The rule is not saved because of its warnings; --anyway saves it "
+                            "all the same"_s);
     return isYes;
 }
 

@@ -64,7 +64,7 @@ TEST_F(WriteRule, SavesOnlyWhatTheUserHasAgreedTo) {
         {"", outside, ExitCode::done, "own folders: files would go to /nowhere/PDFs.\n", 0},
         {"--save", outside, ExitCode::someFailed, "--anyway saves it all the same", 0},
         {"--save", outside, ExitCode::someFailed, "The rule is not saved\n", 0, "no\n"},
-        {"--save", outside, ExitCode::someFailed, "The rule is not saved\n", 0, ""},
+        {"--save", outside, ExitCode::someFailed, "The rule is not saved because", 0, ""},
         {"--json --save", outside, ExitCode::someFailed, R"("saved":false,"runs":[])", 0, "yes\n"},
         {"--save", everything, ExitCode::someFailed, "this rule never matches", 0},
         {"--save", everything, ExitCode::done, "Saved as a rule of in.", 1, " YES \n"},
