@@ -16,7 +16,7 @@ QString nothingText(const WatchedFolder& folder) {
     return folder.onlyNewFiles
                ? u"Nothing to suggest for %1: it tidies only new files, and leaves those alone "
                  "that were there before."_s.arg(folder.name())
-               : u"Nothing to suggest for %1: no three files in it wait for the same rule."_s.arg(
+               : u"Nothing to suggest for %1: no three files in it call for a new rule."_s.arg(
                      folder.name());
 }
 
