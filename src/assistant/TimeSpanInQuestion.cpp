@@ -308,6 +308,8 @@ private:
         if (const QDate iso = QDate::fromString(first, Qt::ISODate);
             first.size() == 10 && iso.isValid())
             return {.words = 1, .span = day(iso)};
+        if (const NumericDate written = numericDate(first); written.day > 0)
+            return inYear(at + 1, 1, written.month, written.day, written.year);
         if (const int named = monthOf(first); named > 0) {
             if (const int number = dayOf(word(at + 1)); number > 0)
                 return inYear(at + 2, 2, named, number);
@@ -326,13 +328,16 @@ private:
         return {};
     }
 
-    /// A day and month, whose year may be the next word.
-    [[nodiscard]] Found inYear(qsizetype next, qsizetype words, int month, int number) const {
-        if (const int named = yearOf(word(next)); named > 0) {
+    /// A day and month. Where no year is given it may be the next word.
+    [[nodiscard]] Found inYear(qsizetype next, qsizetype words, int month, int number,
+                               int given = 0) const {
+        const int named = given > 0 ? given : yearOf(word(next));
+        if (named > 0) {
             const QDate date(named, month, number);
-            return date.isValid() ? Found{.words = words + 1, .span = day(date)} : Found();
+            return date.isValid() ? Found{.words = words + (given > 0 ? 0 : 1), .span = day(date)}
+                                  : Found();
         }
-        // Four years back there is a 29th of February.
+        // Eight years hold a 29th of February.
         for (int back = 0; back <= 8; ++back)
             if (const QDate date(today_.year() - back, month, number);
                 date.isValid() && date <= today_)

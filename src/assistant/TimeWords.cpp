@@ -60,6 +60,19 @@ int dayOf(const QString& word) {
     return day >= 1 && day <= 31 ? day : 0;
 }
 
+NumericDate numericDate(const QString& word) {
+    const bool hasDots = word.count(u'.') == 2;
+    const QStringList parts = word.split(hasDots ? u'.' : u'/');
+    if (parts.size() < 2 || parts.size() > 3)
+        return {};
+    const int month = dayOf(parts[1]);
+    const int year = yearOf(parts.value(2));
+    const bool isDate = parts[0].size() <= 2 && parts[1].size() <= 2 && month <= 12 && month > 0 &&
+                        (parts.size() == 2 || year > 0);
+    return isDate ? NumericDate{.day = dayOf(parts[0]), .month = month, .year = year}
+                  : NumericDate();
+}
+
 int yearOf(const QString& word) {
     const int year = word.size() == 4 ? word.toInt() : 0;
     return year >= 1970 && year < 2200 ? year : 0;

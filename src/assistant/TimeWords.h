@@ -23,6 +23,14 @@ namespace quillon {
 /// Of a month: "12", "12th".
 [[nodiscard]] int dayOf(const QString& word);
 
+/// "12/3", "12/03/2026" and "12.03.2026", the day first; `day` is 0 for a word that isn't one.
+struct NumericDate {
+    int day = 0;
+    int month = 0;
+    int year = 0; ///< 0 where there is none
+};
+[[nodiscard]] NumericDate numericDate(const QString& word);
+
 /// From 1970 to 2199.
 [[nodiscard]] int yearOf(const QString& word);
 

@@ -218,7 +218,7 @@ TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
         QString question, now, from, until;
         QString zone = u"Europe/Berlin"_s;
     };
-    const std::array<TimeRow, 25> rows{{
+    const std::array<TimeRow, 27> rows{{
         // A day of 23 hours, one of 25, and one that starts at one o'clock.
         {u"today"_s, u"2026-03-29 12:00"_s, u"2026-03-28T23:00:00Z"_s, u"2026-03-29T22:00:00Z"_s},
         {u"yesterday"_s, u"2026-10-26 12:00"_s, u"2026-10-24T22:00:00Z"_s,
@@ -260,6 +260,10 @@ TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
          u"2026-04-12T22:00:00Z"_s},
         {u"on 2026-05-01"_s, u"2026-05-23 15:00"_s, u"2026-04-30T22:00:00Z"_s,
          u"2026-05-01T22:00:00Z"_s},
+        {u"on 24/12"_s, u"2026-05-23 15:00"_s, u"2025-12-23T23:00:00Z"_s,
+         u"2025-12-24T23:00:00Z"_s},
+        {u"on 01.05.2026."_s, u"2026-05-23 15:00"_s, u"2026-04-30T22:00:00Z"_s,
+         u"2026-05-01T22:00:00Z"_s},
         {u"three weeks ago"_s, u"2026-05-23 15:00"_s, u"2026-04-26T22:00:00Z"_s,
          u"2026-05-03T22:00:00Z"_s},
         {u"in the past 3 days"_s, u"2026-05-23 15:00"_s, u"2026-05-19T22:00:00Z"_s,
@@ -278,8 +282,9 @@ TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
         EXPECT_EQ(span->from->toUTC().toString(Qt::ISODate), row.from);
         EXPECT_EQ(span->until->toUTC().toString(Qt::ISODate), row.until);
     }
-    for (const QString& question : {u"March report.pdf"_s, u"may I see it"_s, u"the sun"_s,
-                                    u"on the 31st.pdf"_s, u"last"_s, u"version 12"_s, u"a day"_s})
+    for (const QString& question :
+         {u"March report.pdf"_s, u"may I see it"_s, u"the sun"_s, u"on the 31st.pdf"_s, u"last"_s,
+          u"version 12"_s, u"a day"_s, u"version 1.2.3"_s, u"24/7"_s.repeated(3), u"13/13"_s})
         EXPECT_FALSE(timeInQuestion(questionWords(question), now()).span) << question.toStdString();
 }
 
