@@ -293,7 +293,8 @@ std::vector<LogEntry> relevantEntries(const QString& question, const std::vector
     std::vector<Keyword> keywords = takeQuoted(unquoted);
     const TimeInQuestion time = timeInQuestion(questionWords(unquoted), now);
     for (const QString& word : time.otherWords)
-        if (!isStopWord(word) && !(time.wantsLatest && word.size() < 3 && word.toInt() > 0))
+        if (const bool isCount = time.wantsLatest && word.size() < 3 && word.toInt() > 0;
+            !isCount && !isStopWord(word))
             keywords.push_back(keywordOf(word));
 
     std::vector<LogEntry> inSpan;
