@@ -115,9 +115,9 @@ private:
     [[nodiscard]] Found limited(qsizetype at) const {
         const Found first = period(at + 1, true);
         if (isOneOf(at, u"between from") && first.words > 0) {
-            const qsizetype and_ = at + 1 + first.words;
+            const qsizetype joint = at + 1 + first.words;
             const Found last =
-                isOneOf(and_, u"and to until till") ? period(and_ + 1, true) : Found();
+                isOneOf(joint, u"and to until till") ? period(joint + 1, true) : Found();
             if (last.words > 0)
                 return {.words = first.words + last.words + 2,
                         .span = {.from = first.span.from, .until = last.span.until}};
