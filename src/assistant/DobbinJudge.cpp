@@ -68,6 +68,27 @@ bool DobbinJudge::isWaiting(const std::string& path) {
     return file && (outstandingVerdicts_.contains(*file) || names_.isOutstanding(*file));
 }
 
+Verdict DobbinJudge::knownVerdict(const std::string& path, const QString& question) const {
+    const auto status = fileSystem_.status(path);
+    return status ? knownVerdict(path, *status, question) : Verdict::unknown;
+}
+
+Verdict DobbinJudge::knownVerdict(const std::string& path, const FileStatus& status,
+                                  const QString& question) const {
+    const FileKey file = keyFor(path, status);
+    const std::scoped_lock guard(lock_);
+    const auto matches = verdicts_.answer({.question = question, .file = file});
+    if (!matches)
+        return Verdict::unknown;
+    return *matches ? Verdict::yes : Verdict::no;
+}
+
+std::optional<QString> DobbinJudge::knownName(const std::string& path) const {
+    const auto file = keyOf(path);
+    const std::scoped_lock guard(lock_);
+    return file ? names_.answer(*file) : std::nullopt;
+}
+
 bool DobbinJudge::hasPending() const {
     const std::scoped_lock guard(lock_);
     return verdicts_.hasPending() || names_.hasPending();

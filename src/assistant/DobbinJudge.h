@@ -41,6 +41,13 @@ public:
                    const std::string& to) override;
     [[nodiscard]] bool isWaiting(const std::string& path) override;
 
+    // What is known already; queues nothing.
+    [[nodiscard]] Verdict knownVerdict(const std::string& path, const QString& question) const;
+    /// Of a file that was of this status when it lay at the path.
+    [[nodiscard]] Verdict knownVerdict(const std::string& path, const FileStatus& status,
+                                       const QString& question) const;
+    [[nodiscard]] std::optional<QString> knownName(const std::string& path) const;
+
     [[nodiscard]] bool hasPending() const;
     [[nodiscard]] Pending takePending(std::size_t maxVerdicts, std::size_t maxNames);
 

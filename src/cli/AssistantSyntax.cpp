@@ -3,6 +3,17 @@
 #include "cli/Verbs.h"
 
 namespace quillon {
+namespace {
+
+constexpr qsizetype longestQuestion = 4000;
+
+std::string parseNumber(const std::string& text, std::optional<std::size_t>& number) {
+    bool isNumber = false;
+    number = QByteArray::fromStdString(text).toUInt(&isNumber);
+    return isNumber && *number > 0 ? std::string() : "“" + text + "” is not the number of a change";
+}
+
+} // namespace
 
 Command defineKeySet(CLI::App& /*parser*/) {
     return keySetCommand;
@@ -36,6 +47,26 @@ Command defineModelUse(CLI::App& parser) {
         ->required()
         ->type_name("");
     return bound<modelUseCommand>(options);
+}
+
+Command defineAsk(CLI::App& parser) {
+    const auto options = std::make_shared<AskOptions>();
+    const auto words = std::make_shared<std::vector<std::string>>();
+    parser.add_option("QUESTION", *words, "What to ask, in your own words")->type_name("");
+    addParsed(parser, "--do", options->number, parseNumber,
+              "Carry out change N of the newest answer that offers any")
+        ->type_name("N");
+    addJson(parser, options->json);
+    parser.callback([options, words] {
+        options->question = CLI::detail::join(*words, " ");
+        const QString question = QString::fromStdString(options->question).trimmed();
+        if (words->empty() != options->number.has_value() ||
+            (question.isEmpty() && !words->empty()))
+            throw CLI::ValidationError("Give either a question or --do N");
+        if (question.size() > longestQuestion)
+            throw CLI::ValidationError("The question is too long; ask it in fewer words");
+    });
+    return bound<askCommand>(options);
 }
 
 } // namespace quillon

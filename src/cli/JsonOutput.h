@@ -2,6 +2,8 @@
 
 #include "store/JsonStream.h"
 
+#include <QJsonValue>
+
 #include <ostream>
 
 namespace quillon {
@@ -15,5 +17,8 @@ void finish(JsonStream& json, std::ostream& out);
 
 /// A list of texts.
 void writeTexts(JsonStream& json, const QStringList& texts);
+
+/// Any value but null; the keys of an object come in their alphabetical order.
+void writeJson(JsonStream& json, const QJsonValue& value);
 
 } // namespace quillon

@@ -1,11 +1,10 @@
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
-#include "cli/LocalTime.h"
+#include "cli/LogLines.h"
 #include "cli/NamedFolder.h"
 #include "cli/StoreFailure.h"
 #include "cli/TimeSpan.h"
 #include "cli/Verbs.h"
-#include "model/Uuid.h"
 
 #include <algorithm>
 
@@ -14,8 +13,6 @@ namespace quillon {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr qsizetype shortID = 8;
 
 /// Whether the file of an entry was in the folder, or below it, before.
 bool wasWithin(const LogEntry& entry, const std::string& folder) {
@@ -58,24 +55,6 @@ void printJson(const std::vector<LogEntry>& logs, std::ostream& out) {
     finish(json, out);
 }
 
-void printText(const std::vector<LogEntry>& logs, const Console& console) {
-    ColumnWidth names;
-    for (const LogEntry& entry : logs)
-        names.fit(entry.fileName);
-    LineBuffer lines(console.out, console.colored);
-    for (const LogEntry& entry : logs)
-        lines.add(uuidText(entry.id).left(shortID), LineBuffer::Style::faint)
-            .add(u"  "_s)
-            .add(localTime(entry.date), LineBuffer::Style::faint)
-            .add(u"  "_s)
-            .add(entry.fileName, LineBuffer::Style::plain, names.columns())
-            .add(u"  "_s)
-            .add(entry.actionSummary,
-                 entry.isError ? LineBuffer::Style::bad : LineBuffer::Style::plain)
-            .add(u"  (%1)"_s.arg(entry.ruleName), LineBuffer::Style::faint)
-            .endLine();
-}
-
 } // namespace
 
 ExitCode logCommand(const LogOptions& options, const Console& console, Services& services) {
@@ -99,8 +78,10 @@ ExitCode logCommand(const LogOptions& options, const Console& console, Services&
         console.out << (options.errorsOnly            ? "Nothing has gone wrong.\n"
                         : span->since || span->before ? "Nothing was done then.\n"
                                                       : "Nothing has been done yet.\n");
-    else
-        printText(logs, console);
+    else {
+        LineBuffer lines(console.out, console.colored);
+        addLogLines(logs, lines);
+    }
     return ExitCode::done;
 }
 

@@ -158,6 +158,29 @@ struct ModelOptions {
     std::string name; ///< empty: the recommended one
 };
 
+/// Either the question or the number is given.
+struct AskOptions {
+    std::string question;
+    std::optional<std::size_t> number; ///< of an offered change, from 1
+    bool json = false;
+};
+
+/// Of the last two, one at most is given.
+struct SuggestOptions {
+    std::string folder;
+    bool json = false;
+    std::optional<std::size_t> add;     ///< a number of the list that was shown, from 1
+    std::optional<std::size_t> dismiss; ///< likewise
+};
+
+struct WriteRuleOptions {
+    std::string folder;
+    std::string sentence;
+    bool saves = false;
+    bool isAgreed = false; ///< to save it whatever its warnings
+    bool json = false;
+};
+
 struct CompletionsOptions {
     std::string (*script)() = nullptr; ///< makes the shell's script
 };

@@ -19,7 +19,7 @@ ProgressBar::ProgressBar(std::ostream& terminal, const Clock& clock, bool isShow
     , nextDrawing_(isShown ? clock.now() + patience : Timestamp{}) {}
 
 ProgressBar::~ProgressBar() {
-    if (isDrawn_)
+    if (!drawn_.empty())
         (terminal_ << "\r\x1b[K").flush();
 }
 
@@ -37,16 +37,21 @@ void ProgressBar::updateBytes(std::int64_t done, std::int64_t total) {
 }
 
 void ProgressBar::draw(double done, const std::string& figures) {
+    const auto filled = std::size_t(double(cells) * std::clamp(done, 0.0, 1.0));
+    draw('[' + std::string(filled, '#') + std::string(cells - filled, '.') + "] " + figures);
+}
+
+void ProgressBar::draw(const std::string& line) {
     if (!isShown_)
         return;
     const Timestamp now = clock_.now();
     if (now < nextDrawing_)
         return;
     nextDrawing_ = now + betweenDrawings;
-    isDrawn_ = true;
-    const auto filled = std::size_t(double(cells) * std::clamp(done, 0.0, 1.0));
-    terminal_ << "\r\x1b[K[" << std::string(filled, '#') << std::string(cells - filled, '.') << "] "
-              << figures;
+    if (line == drawn_)
+        return;
+    drawn_ = line;
+    terminal_ << "\r\x1b[K" << line;
     terminal_.flush();
 }
 

@@ -19,6 +19,8 @@ public:
 
     void update(std::size_t done, std::size_t total);
     void updateBytes(std::int64_t done, std::int64_t total);
+    /// A line for work whose length nobody knows.
+    void draw(const std::string& line);
 
 private:
     void draw(double done, const std::string& figures);
@@ -26,7 +28,7 @@ private:
     std::ostream& terminal_;
     const Clock& clock_;
     bool isShown_;
-    bool isDrawn_ = false;
+    std::string drawn_ = {}; ///< what stands there
     Timestamp nextDrawing_;
 };
 

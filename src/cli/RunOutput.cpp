@@ -88,6 +88,12 @@ ExitCode tellRuns(const std::vector<RunReport>& reports, const Console& console)
 
 ExitCode tellRunsAsJson(const std::vector<RunReport>& reports, const Console& console) {
     JsonStream json;
+    writeRuns(json, reports, console.out);
+    finish(json, console.out);
+    return sayHowRunsEnded(reports, console);
+}
+
+void writeRuns(JsonStream& json, const std::vector<RunReport>& reports, std::ostream& out) {
     json.beginList();
     for (const RunReport& report : oneAFolder(reports)) {
         json.beginObject().key("folderID").id(report.folderID);
@@ -101,13 +107,11 @@ ExitCode tellRunsAsJson(const std::vector<RunReport>& reports, const Console& co
         json.key("entries").beginList();
         for (const LogEntry& entry : report.run.entries) {
             writeLogEntry(json, entry, DateForm::iso);
-            passOn(json, console.out);
+            passOn(json, out);
         }
         json.endList().endObject();
     }
     json.endList();
-    finish(json, console.out);
-    return sayHowRunsEnded(reports, console);
 }
 
 void addReach(const std::vector<LogEntry>& entries, LineBuffer& lines) {

@@ -25,6 +25,9 @@ void addRuns(const std::vector<RunReport>& reports, LineBuffer& lines);
 [[nodiscard]] ExitCode tellRunsAsJson(const std::vector<RunReport>& reports,
                                       const Console& console);
 
+/// That list, where a value is expected.
+void writeRuns(JsonStream& json, const std::vector<RunReport>& reports, std::ostream& out);
+
 /// Says which of a run's entries undo won't reach, where there are so many.
 void addReach(const std::vector<LogEntry>& entries, LineBuffer& lines);
 

@@ -53,6 +53,12 @@ namespace quillon {
 [[nodiscard]] Command defineModelPull(CLI::App& parser);
 [[nodiscard]] Command defineModelUse(CLI::App& parser);
 
+[[nodiscard]] Command defineAsk(CLI::App& parser);
+
+[[nodiscard]] Command defineSuggest(CLI::App& parser);
+
+[[nodiscard]] Command defineWriteRule(CLI::App& parser);
+
 [[nodiscard]] Command defineCompletions(CLI::App& parser);
 [[nodiscard]] Command defineManual(CLI::App& parser);
 

@@ -77,6 +77,11 @@ constexpr Verb verbs[] = {
     {"settings set", "Change a setting", "quillon settings set notificationsEnabled false",
      defineSettingsSet},
 
+    {"ask", "Ask Dobbin about what was tidied, and have him change rules",
+     "quillon ask \"Where did my invoice go?\"\nquillon ask --do 1", defineAsk},
+    {"write-rule", "Have Dobbin write a rule from a sentence",
+     "quillon write-rule ~/Downloads \"Move PDFs from amazon.com to Receipts\" --save",
+     defineWriteRule},
     {"key", "Your key for Claude, kept in the desktop's keyring"},
     {"key set", "Check a key, read from standard input, and keep it", "quillon key set",
      defineKeySet},
@@ -88,6 +93,9 @@ constexpr Verb verbs[] = {
      "quillon model status", defineModelStatus},
     {"model pull", "Download a local model", "quillon model pull llama3.2:3b", defineModelPull},
     {"model use", "Choose the local model", "quillon model use llama3.2:3b", defineModelUse},
+
+    {"suggest", "Suggest rules by what lies in a folder",
+     "quillon suggest ~/Downloads\nquillon suggest ~/Downloads --add 1", defineSuggest},
 
     {"completions", "Print a script that completes this command in a shell",
      "source <(quillon completions bash)", defineCompletions},

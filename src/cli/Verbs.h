@@ -53,6 +53,12 @@ namespace quillon {
 [[nodiscard]] ExitCode modelPullCommand(const ModelOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode modelUseCommand(const ModelOptions&, const Console&, Services&);
 
+[[nodiscard]] ExitCode askCommand(const AskOptions&, const Console&, Services&);
+
+[[nodiscard]] ExitCode suggestCommand(const SuggestOptions&, const Console&, Services&);
+
+[[nodiscard]] ExitCode writeRuleCommand(const WriteRuleOptions&, const Console&, Services&);
+
 [[nodiscard]] ExitCode completionsCommand(const CompletionsOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode manualCommand(const ManualOptions&, const Console&, Services&);
 

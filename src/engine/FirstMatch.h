@@ -5,6 +5,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Platform.h"
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -32,5 +33,10 @@ struct MatchSetup {
 /// there are many files.
 [[nodiscard]] std::vector<FirstMatch> firstMatches(const MatchSetup& setup,
                                                    std::span<const ListedFile* const> files);
+
+/// For each file one bit a rule, set where the rule matches, whatever the other rules say; the
+/// first rule is the lowest bit. 64 rules at most. Otherwise as firstMatches.
+[[nodiscard]] std::vector<std::uint64_t> everyMatch(const MatchSetup& setup,
+                                                    std::span<const ListedFile* const> files);
 
 } // namespace quillon

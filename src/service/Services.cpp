@@ -1,8 +1,11 @@
 #include "service/Services.h"
 
+#include "assistant/DobbinChat.h"
 #include "assistant/DobbinJudge.h"
 #include "assistant/DobbinResolver.h"
 #include "assistant/FileText.h"
+#include "assistant/FolderSuggestions.h"
+#include "assistant/SuggestionMemory.h"
 #include "assistant/backends/AIManager.h"
 #include "platform/FileNames.h"
 #include "platform/linux/BsdtarArchives.h"
@@ -73,6 +76,7 @@ struct Services::Machine {
                       .folders = folders};
     IniSettings settings{joinPath(folders.config, "Quillon.conf")};
     DobbinJudge judge{fileSystem, clock};
+    SuggestionMemory suggestionMemory{storage, fileSystem, StorePlaces(folders.data)};
 };
 
 struct Services::Assistant {
@@ -84,8 +88,8 @@ struct Services::Assistant {
                   [&judge = machine.judge] { judge.clearAnswers(); }) {}
 };
 
-/// What only an open store needs. The store goes first, and the resolver before what the background
-/// may still be using.
+/// What only an open store needs. The conversation goes first, then the store, and the resolver
+/// before what the background may still be using.
 struct Services::OpenStore {
     ReaderProcess reader{readerProgram()};
     FileText texts;
@@ -96,6 +100,8 @@ struct Services::OpenStore {
     DobbinResolver resolver;
     AppStore::Life life;
     AppStore store;
+    std::unique_ptr<DobbinChat> chat;               ///< made when it is first asked for
+    std::unique_ptr<FolderSuggestions> suggestions; ///< likewise
 
     OpenStore(Services& services, std::unique_ptr<StoreSession> session, AppStore::Life itsLife)
         : texts(services.machine_->platform, reader)
@@ -136,6 +142,14 @@ Settings& Services::settings() {
 
 RuleEngine Services::engine(EngineSettings settings) {
     return RuleEngine(machine_->platform, machine_->judge, std::move(settings));
+}
+
+const DobbinJudge& Services::judge() const {
+    return machine_->judge;
+}
+
+SuggestionMemory& Services::suggestionMemory() {
+    return machine_->suggestionMemory;
 }
 
 StoreSession::Services Services::storeServices() {
@@ -198,6 +212,28 @@ AIManager& Services::assistant() {
     if (!assistant_)
         assistant_ = std::make_unique<Assistant>(*machine_);
     return assistant_->manager;
+}
+
+FolderSuggestions& Services::suggestions() {
+    if (!store_->suggestions)
+        store_->suggestions = std::make_unique<FolderSuggestions>(
+            machine_->platform, machine_->judge, machine_->suggestionMemory, machine_->settings,
+            store_->background, [this]() -> ModelAccess& { return assistant(); });
+    return *store_->suggestions;
+}
+
+DobbinChat& Services::chat() {
+    if (!store_->chat)
+        store_->chat = std::make_unique<DobbinChat>(
+            DobbinChat::Surroundings{.store = store_->store,
+                                     .platform = machine_->platform,
+                                     .judge = machine_->judge,
+                                     .storage = machine_->storage,
+                                     .settings = machine_->settings,
+                                     .background = store_->background,
+                                     .assistant = [this]() -> AIManager& { return assistant(); }},
+            StorePlaces(machine_->folders.data).chat());
+    return *store_->chat;
 }
 
 Expected<AppStore*> Services::startInstance() {

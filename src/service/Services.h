@@ -14,6 +14,10 @@
 namespace quillon {
 
 class AIManager;
+class DobbinChat;
+class DobbinJudge;
+class FolderSuggestions;
+class SuggestionMemory;
 
 /// Builds the platform, the assistant's judge, the engine and the store for one process, and hands
 /// them out by reference. Cheap to make: what costs anything is built when it is first used. Made
@@ -27,6 +31,8 @@ public:
     [[nodiscard]] Storage& storage();
     [[nodiscard]] Settings& settings();
     [[nodiscard]] RuleEngine engine(EngineSettings settings);
+    [[nodiscard]] const DobbinJudge& judge() const;
+    [[nodiscard]] SuggestionMemory& suggestionMemory();
 
     /// The store for changing, opened on the event loop's thread when it is first asked for; see
     /// StoreSession::open for how it fails. From a thread other than that.
@@ -44,6 +50,14 @@ public:
     /// The assistant's settings, key and models; made when it is first asked for, and there until
     /// these services go.
     [[nodiscard]] AIManager& assistant();
+
+    /// The conversation with the assistant; made when it is first asked for, and there until the
+    /// store is let go. The store must be open.
+    [[nodiscard]] DobbinChat& chat();
+
+    /// Rules to be offered for a folder; made when it is first asked for, and there until the store
+    /// is let go. The store must be open.
+    [[nodiscard]] FolderSuggestions& suggestions();
 
     /// Opens the store as the one instance that lives on; fails with `timedOut` when there is one
     /// already.

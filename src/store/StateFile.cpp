@@ -1,8 +1,6 @@
 #include "store/StateFile.h"
 
-#include "store/Sentences.h"
-
-#include <QDateTime>
+#include "store/UnreadableFile.h"
 
 namespace quillon {
 
@@ -11,11 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::uint64_t largestFile = 1ULL << 30;
-
-QString dateForName(Timestamp now) {
-    const auto seconds = std::chrono::floor<std::chrono::seconds>(now).time_since_epoch();
-    return QDateTime::fromSecsSinceEpoch(seconds.count()).toString(u"yyyy-MM-dd-HHmmss");
-}
 
 } // namespace
 
@@ -32,19 +25,10 @@ Expected<StateFile::Loaded> StateFile::load(Timestamp now) {
     Expected<PersistedState> state = read(now);
     if (state)
         return Loaded{std::move(*state), std::nullopt};
-    // A disk or a machine in trouble says nothing about the file.
-    if (state.error().kind == ErrorKind::io)
-        return failedTo(u"%1 can't be read"_s.arg(pathText(path_)), state.error());
-
-    const std::string wanted = path_ + ".unreadable-" + dateForName(now).toStdString();
-    const Expected<std::string> kept = storage_.keepAside(path_, wanted);
+    const Expected<QString> kept = keepUnreadable(storage_, path_, state.error(), now);
     if (!kept)
-        return failure(kept.error().kind,
-                       u"%1 can't be read (%2) and can't be kept aside: %3"_s.arg(
-                           pathText(path_), state.error().message, kept.error().message));
-    return Loaded{{},
-                  u"%1 can't be read (%2). It is kept as %3, and Quillon starts empty"_s.arg(
-                      pathText(path_), state.error().message, pathText(*kept))};
+        return std::unexpected(kept.error());
+    return Loaded{{}, *kept + u", and Quillon starts empty"_s};
 }
 
 Expected<void> StateFile::save(const PersistedState& state) {

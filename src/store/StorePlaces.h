@@ -17,6 +17,13 @@ struct StorePlaces {
     [[nodiscard]] std::string previous() const { return joinPath(folder, "store.json.previous"); }
     [[nodiscard]] std::string journal() const { return joinPath(folder, "journal"); }
     [[nodiscard]] std::string memory() const { return joinPath(folder, "memory.json"); }
+    /// The conversation with the assistant.
+    [[nodiscard]] std::string chat() const { return joinPath(folder, "dobbin-chat.json"); }
+    /// Which rules were suggested and dismissed.
+    [[nodiscard]] std::string suggestions() const { return joinPath(folder, "suggestions.json"); }
+    [[nodiscard]] std::string suggestionsLock() const {
+        return joinPath(folder, "suggestions.lock");
+    }
     [[nodiscard]] std::string lock() const { return joinPath(folder, "store.lock"); }
 };
 

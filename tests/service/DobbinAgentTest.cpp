@@ -232,5 +232,29 @@ TEST_F(DobbinAgent, saysWhyDobbinCouldNotAnswerAndWaitsForHimOnlyWhenAsked) {
     EXPECT_THAT(clerk_.verdictBatches(), ElementsAre(24, 6));
 }
 
+TEST_F(DobbinAgent, writesARuleAndAsksNothingAboutFilesBeforeItIsSaved) {
+    const QString draft =
+        uR"({"name":"File receipts","matchMode":"all","conditions":[{"attribute":"Dobbin says it",
+        "operator":"is","value":"a receipt","sizeUnit":"MB"}],"actions":[{"type":"Move to folder",
+        "destination":"/nowhere","renamePattern":"","tag":"none","sortBy":"none"}],"note":""})"_s;
+    mustRun({u"settings"_s, u"set"_s, u"ai.localHost"_s, server_.host()});
+    drop("receipt.csv", "paid");
+    ASSERT_TRUE(agent_.start()) << agent_.said();
+    mustRun({u"folder"_s, u"add"_s, in_});
+    server_.play("/api/chat", ModelServer::chatAnswer(draft));
+    QStringList command{u"write-rule"_s, in_, u"File receipts"_s};
+    const auto shown = agent_.command(command);
+    EXPECT_THAT(shown.out, ::testing::HasSubstr("Would ask Dobbin about 1 of 1 file: receipt.csv"));
+    const auto refused = agent_.command(command << u"--save"_s);
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_THAT(refused.err, ::testing::HasSubstr("--anyway"));
+    mustRun({u"run"_s, u"--wait"_s, in_});
+    EXPECT_EQ(server_.requests("/api/chat").size(), 2) << "one a draft";
+    mustRun(command << u"--anyway"_s);
+    EXPECT_THAT(agent_.command({u"rule"_s, u"list"_s, u"--folder"_s, in_}).out,
+                ::testing::HasSubstr("If Dobbin says it's a receipt → Move to nowhere"));
+    EXPECT_EQ(agent_.stop(), 0);
+}
+
 } // namespace
 } // namespace quillon::testing

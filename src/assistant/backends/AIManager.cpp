@@ -41,14 +41,9 @@ AIManager::~AIManager() {
 
 QCoro::Task<Expected<QString>> AIManager::send(AIRequest request) {
     const std::weak_ptr<const void> life = life_;
-    std::optional<Error> keyTrouble;
-    if (useClaude() && apiKey_.isEmpty()) {
-        const Expected<void> loaded = co_await loadKey();
-        if (life.expired())
-            co_return gone();
-        if (!loaded && loaded.error().kind != ErrorKind::notFound)
-            keyTrouble = loaded.error();
-    }
+    const std::optional<Error> keyTrouble = co_await ensureKey();
+    if (life.expired())
+        co_return gone();
     if (useClaude() && !apiKey_.isEmpty())
         co_return co_await askClaude(std::move(request));
     Expected<QString> answer = co_await askOnDevice(std::move(request));
@@ -56,6 +51,21 @@ QCoro::Task<Expected<QString>> AIManager::send(AIRequest request) {
     if (keyTrouble && !life.expired() && status_.kind != OnDeviceStatus::Kind::available)
         co_return std::unexpected(*keyTrouble);
     co_return answer;
+}
+
+QCoro::Task<bool> AIManager::asksClaude() {
+    const std::weak_ptr<const void> life = life_;
+    (void)co_await ensureKey(); // without a key it is the other backend's turn
+    co_return !life.expired() && useClaude() && !apiKey_.isEmpty();
+}
+
+QCoro::Task<std::optional<Error>> AIManager::ensureKey() {
+    if (!useClaude() || !apiKey_.isEmpty())
+        co_return std::nullopt;
+    const Expected<void> loaded = co_await loadKey();
+    if (loaded || loaded.error().kind == ErrorKind::notFound)
+        co_return std::nullopt;
+    co_return loaded.error();
 }
 
 QCoro::Task<Expected<QString>> AIManager::askClaude(AIRequest request) {

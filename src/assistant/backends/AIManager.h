@@ -52,6 +52,9 @@ public:
     /// read and there is no model on this machine either, the failure is that of the keychain.
     [[nodiscard]] QCoro::Task<Expected<QString>> send(AIRequest request) override;
 
+    /// Whether send() would ask Claude now, which it finds out in the same way.
+    [[nodiscard]] QCoro::Task<bool> asksClaude();
+
     [[nodiscard]] bool suggestRules() const;
     [[nodiscard]] bool readContents() const override;
     [[nodiscard]] bool useClaude() const;
@@ -90,6 +93,9 @@ Q_SIGNALS:
     void statusChanged();
 
 private:
+    /// Takes the key into memory where Claude is to be asked; why that failed, unless there is
+    /// none.
+    [[nodiscard]] QCoro::Task<std::optional<Error>> ensureKey();
     [[nodiscard]] QCoro::Task<Expected<QString>> askClaude(AIRequest request);
     [[nodiscard]] QCoro::Task<Expected<QString>> askOnDevice(AIRequest request);
     [[nodiscard]] QCoro::Task<LocalModelState> look();

@@ -1,0 +1,134 @@
+#include "assistant/DobbinChat.h"
+#include "cli/JsonOutput.h"
+#include "cli/LineBuffer.h"
+#include "cli/LogLines.h"
+#include "cli/OfferedChange.h"
+#include "cli/OpenStore.h"
+#include "cli/ProgressBar.h"
+#include "cli/Verbs.h"
+#include "service/LoopTask.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Nothing when the command was called off. Then the question stays, and a running agent goes on to
+/// answer it.
+std::optional<ChatTurn> answerTo(const QString& question, const Console& console,
+                                 Services& services) {
+    const auto task = std::make_shared<LoopTask<ChatTurn>>();
+    services.onLoop([&] {
+        services.chat().ask(question, [task](const ChatTurn& answer) {
+            task->result = answer;
+            task->ended.raise();
+        });
+    });
+    ProgressBar hint(console.err, services.platform().clock, console.showsProgress);
+    const bool came = task->ended.wait([&] {
+        hint.draw("Dobbin is thinking…");
+        return !console.mayContinue || console.mayContinue();
+    });
+    return came ? std::move(task->result) : std::nullopt;
+}
+
+QString commandFor(std::size_t number) {
+    return u"quillon ask --do "_s + QString::number(number);
+}
+
+void writeAction(JsonStream& json, const DobbinAction& action, std::size_t number) {
+    json.beginObject().key("number").integer(std::int64_t(number));
+    json.key("kind").text(rawValue(action.kind)).key("label").text(action.label());
+    json.key("folderID").id(action.folderID).key("folderName").text(action.folderName);
+    if (action.ruleID)
+        json.key("ruleID").id(*action.ruleID);
+    if (action.ruleName)
+        json.key("ruleName").text(*action.ruleName);
+    if (action.ruleOrder) {
+        json.key("ruleOrder").beginList();
+        for (const QUuid& id : *action.ruleOrder)
+            json.id(id);
+        json.endList();
+    }
+    if (action.description)
+        json.key("description").text(*action.description);
+    json.key("command").text(commandFor(number)).endObject();
+}
+
+void printJson(const QString& question, const ChatTurn& answer, std::ostream& out) {
+    JsonStream json;
+    json.beginObject().key("question").text(question).key("answer").text(answer.text);
+    json.key("isError").truth(answer.isError).key("date").isoDate(answer.date);
+    json.key("entries").beginList();
+    for (const LogEntry& entry : answer.entries)
+        writeLogEntry(json, entry, DateForm::iso);
+    json.endList().key("actions").beginList();
+    std::size_t number = 0;
+    for (const DobbinAction& action : answer.actions)
+        writeAction(json, action, ++number);
+    json.endList().endObject();
+    finish(json, out);
+}
+
+void printText(const ChatTurn& answer, const Console& console) {
+    LineBuffer lines(console.out, console.colored);
+    for (const QString& line : answer.text.split(u'\n'))
+        lines.add(line).endLine();
+    if (!answer.entries.empty()) {
+        lines.endLine();
+        addLogLines(answer.entries, lines, true);
+    }
+    const auto undoable = std::ranges::find_if(answer.entries, &LogEntry::canUndo);
+    if (undoable != answer.entries.end())
+        lines.add(u"Put back with: quillon undo "_s + shortID(*undoable), LineBuffer::Style::faint)
+            .endLine();
+    std::size_t number = 0;
+    for (const DobbinAction& action : answer.actions) {
+        lines.endLine();
+        lines.add(u"%1. "_s.arg(++number)).add(action.label(), LineBuffer::Style::strong);
+        if (action.description)
+            lines.add(u": "_s + *action.description);
+        lines.endLine();
+        lines.add(u"   "_s + commandFor(number), LineBuffer::Style::faint).endLine();
+    }
+}
+
+ExitCode askDobbin(const AskOptions& options, const Console& console, Services& services) {
+    const QString question = QString::fromStdString(options.question);
+    const auto answer = answerTo(question, console, services);
+    if (!answer) {
+        console.say(u"Stopped before there was an answer"_s);
+        return ExitCode::someFailed;
+    }
+    if (answer->isError)
+        console.say(answer->text);
+    if (options.json)
+        printJson(question, *answer, console.out);
+    else if (!answer->isError)
+        printText(*answer, console);
+    return answer->isError ? ExitCode::someFailed : ExitCode::done;
+}
+
+} // namespace
+
+ExitCode askCommand(const AskOptions& options, const Console& console, Services& services) {
+    const auto store = openStoreFor(console, services);
+    if (!store)
+        return store.error();
+    if (const auto warning = store->call([&](AppStore&) { return services.chat().takeWarning(); }))
+        console.say(*warning);
+    const ExitCode code =
+        options.number ? carryOutOffer(*options.number, options.json, *store, console, services)
+                       : askDobbin(options, console, services);
+    const auto unsaved = store->call([&](AppStore&) { return services.chat().lastSaveError(); });
+    if (!unsaved)
+        return code;
+    console.say(u"The conversation can't be saved (%1); the next question tries again"_s.arg(
+        unsaved->message));
+    return code == ExitCode::done ? ExitCode::someFailed : code;
+}
+
+} // namespace quillon

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "assistant/RuleSuggestion.h"
+#include "model/WatchedFolder.h"
+#include "service/Console.h"
+
+#include <vector>
+
+namespace quillon {
+
+/// What is suggested for a folder, and what to type next.
+struct SuggestionList {
+    const WatchedFolder& folder;
+    bool isWatched = false;
+    const std::string& typed; ///< the folder as it was given
+    const std::vector<RuleSuggestion>& suggestions;
+};
+
+void printSuggestions(const SuggestionList& list, const Console& console);
+void printSuggestionsAsJson(const SuggestionList& list, const Console& console);
+
+} // namespace quillon

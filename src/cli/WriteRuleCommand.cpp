@@ -1,0 +1,121 @@
+#include "cli/DraftOutput.h"
+#include "cli/JsonOutput.h"
+#include "cli/OpenFolder.h"
+#include "cli/OpenStore.h"
+#include "cli/RunOutput.h"
+#include "cli/ShellWord.h"
+#include "cli/Verbs.h"
+#include "store/Sentences.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace quillon {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// What came of keeping the rule.
+struct Saving {
+    bool isSaved = false;
+    std::vector<RunReport> runs = {};
+    ExitCode code = ExitCode::done;
+};
+
+/// A rule with such warnings is saved only when the user has said so, here or beforehand.
+bool isAgreed(const RuleDraft& draft, const WriteRuleOptions& options, const Console& console) {
+    if (!draft.needsConsent || options.isAgreed)
+        return true;
+    std::optional<std::string> typed;
+    if (!options.json && console.showsProgress)
+        typed = console.secretLine("Save it in spite of the warnings? Type yes (not shown): ");
+    const bool isYes = typed && QString::fromStdString(*typed).trimmed().toLower() == u"yes";
+    if (!isYes)
+        console.say(typed ? u"The rule is not saved"_s
+                          : u"The rule is not saved because of its warnings; --anyway saves it "
+                            "all the same"_s);
+    return isYes;
+}
+
+Saving save(const RuleDraft& draft, const WriteRuleOptions& options, const Console& console,
+            Services& services) {
+    if (!isAgreed(draft, options, console))
+        return {.code = ExitCode::someFailed};
+    const auto open = openFolder(options.folder, console, services);
+    if (!open)
+        return {.code = open.error()};
+    Saving saving{.isSaved = true};
+    saving.runs = open->store.runsOf(
+        [&](AppStore& store) { store.addRules({draft.rule}, open->folder.id, RuleSource::dobbin); },
+        console.mayContinue);
+    saving.code = sayWhetherSaved(open->store, console);
+    return saving;
+}
+
+QString savingHint(const DraftedRule& drafted, const DraftPlace& found) {
+    if (!found.isWatched)
+        return u"To keep it, watch the folder first: quillon folder add %1"_s.arg(
+            shellWord(found.place.folder.path));
+    return drafted.draft.needsConsent
+               ? u"To keep it in spite of the warnings: add --save --anyway"_s
+               : u"To keep it: add --save"_s;
+}
+
+ExitCode tellAsJson(const DraftedRule& drafted, const DraftPlace& found,
+                    const WriteRuleOptions& options, const Console& console, Services& services) {
+    const Saving saving =
+        options.saves ? save(drafted.draft, options, console, services) : Saving{};
+    JsonStream json;
+    json.beginObject().key("folder").text(found.place.folder.path);
+    writeDraft(json, drafted);
+    json.key("saved").truth(saving.isSaved);
+    json.key("runs");
+    writeRuns(json, saving.runs, console.out);
+    json.endObject();
+    finish(json, console.out);
+    return std::max(saving.code, sayHowRunsEnded(saving.runs, console));
+}
+
+ExitCode tell(const DraftedRule& drafted, const DraftPlace& found, const WriteRuleOptions& options,
+              const Console& console, Services& services) {
+    {
+        LineBuffer lines(console.out, console.colored);
+        addDraft(drafted, lines);
+        if (!options.saves)
+            lines.add(savingHint(drafted, found)).endLine();
+    }
+    console.out.flush(); // before anything is said or asked about it
+    if (!options.saves)
+        return ExitCode::done;
+    const Saving saving = save(drafted.draft, options, console, services);
+    if (saving.isSaved) {
+        LineBuffer lines(console.out, console.colored);
+        lines.add(u"Saved as a rule of %1."_s.arg(found.place.folder.name())).endLine();
+        lines.endLine();
+        addRuns(saving.runs, lines);
+    }
+    return std::max(saving.code, sayHowRunsEnded(saving.runs, console));
+}
+
+} // namespace
+
+ExitCode writeRuleCommand(const WriteRuleOptions& options, const Console& console,
+                          Services& services) {
+    const auto found = draftPlaceAt(options.folder, console, services);
+    if (!found)
+        return found.error();
+    if (options.saves && !found->isWatched) {
+        console.say(u"The folder %1 is not watched, so it can keep no rule; first: quillon folder "
+                    "add %2"_s.arg(pathText(options.folder), shellWord(found->place.folder.path)));
+        return ExitCode::usage;
+    }
+    const auto drafted = draftRule(QString::fromStdString(options.sentence).trimmed(), found->place,
+                                   console, services);
+    if (!drafted)
+        return sayRefusal(drafted.error(), console);
+    return options.json ? tellAsJson(*drafted, *found, options, console, services)
+                        : tell(*drafted, *found, options, console, services);
+}
+
+} // namespace quillon

@@ -1,0 +1,169 @@
+#include "support/CommandBench.h"
+#include "support/ModelServer.h"
+#include "support/PrintQt.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <gmock/gmock.h>
+
+namespace quillon::testing {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::MatchesRegex;
+using ::testing::Not;
+
+const QString writtenRule =
+    uR"({"name":"File bills","matchMode":"all","conditions":[{"attribute":"Name",)"
+    uR"("operator":"contains","value":"bill","sizeUnit":"KB"}],"actions":[{"type":)"
+    uR"("Move to folder","destination":"My Bills","renamePattern":"","tag":"none",)"
+    uR"("sortBy":"none"}],"note":""})"_s;
+
+class AskVerb : public ::testing::Test {
+protected:
+    void SetUp() override {
+        mustRun({"settings", "set", "ai.localHost", server.host().toStdString()});
+        server.haveModels({u"phi4:latest"_s});
+        mustRun({"folder", "add", "@in", "--timing", "manual"});
+        for (const char* rule : {"Old", "Invoices"})
+            mustRun({"rule", "add", "--folder", "@in", "--name", rule, "--if", "extension is pdf",
+                     "--then", "move to " + bench.at(rule)});
+        bench.write("in/invoice.pdf", "paid");
+        mustRun({"run"});
+    }
+
+    void mustRun(const std::vector<std::string>& arguments) {
+        const auto result = bench.run(arguments);
+        ASSERT_EQ(result.code, ExitCode::done) << arguments[0] << ": " << result.err;
+    }
+    /// What the model says to a question, which changes it then finds in that, and the rule that it
+    /// writes.
+    void play(const QString& answer, const QJsonArray& changes = {}) {
+        const QByteArray list =
+            QJsonDocument(QJsonObject{{u"actions"_s, changes}}).toJson(QJsonDocument::Compact);
+        server.play("/api/chat", std::deque{ModelServer::chatAnswer(answer),
+                                            ModelServer::chatAnswer(QString::fromUtf8(list)),
+                                            ModelServer::chatAnswer(u"{}"_s)});
+    }
+    static QJsonObject change(const QString& type, const QString& rule = {},
+                              const QString& description = {}) {
+        return {{u"type"_s, type},
+                {u"folder"_s, u"in"_s},
+                {u"rule"_s, rule},
+                {u"ruleOrder"_s, QJsonArray{u"Invoices"_s, u"Old"_s}},
+                {u"description"_s, description}};
+    }
+    CommandBench::Result change(const char* number, bool json = false) {
+        std::vector<std::string> arguments{"ask", "--do", number};
+        if (json)
+            arguments.emplace_back("--json");
+        return bench.run(arguments);
+    }
+
+    int argc = 0;
+    QCoreApplication application{argc, nullptr};
+    ModelServer server;
+    CommandBench bench;
+};
+
+TEST_F(AskVerb, answersWithEntriesAndChangesThatCanBeCarriedOut) {
+    play(u"invoice.pdf went to Old.\nMove Invoices above Old."_s,
+         {change(u"reorderRules"_s), change(u"turnOffRule"_s, u"Old"_s)});
+    const auto asked = bench.run({"ask", "Where", "did", "invoice.pdf", "go?"});
+    EXPECT_EQ(asked.code, ExitCode::done) << asked.err;
+    EXPECT_THAT(asked.out,
+                MatchesRegex("invoice.pdf went to Old.\nMove Invoices above Old.\n\n"
+                             "[0-9A-F]{8}  [-0-9]+ [0-9:]+  invoice.pdf  moved to Old  \\(Old\\)\n"
+                             "          /.*/Old/invoice.pdf\n"
+                             "Put back with: quillon undo [0-9A-F]{8}\n\n"
+                             "1. Reorder rules in in\n   quillon ask --do 1\n\n"
+                             "2. Turn off “Old”\n   quillon ask --do 2\n"));
+    mustRun({"undo", asked.out.substr(asked.out.find("undo ") + 5, 8)});
+
+    const auto reordered = change("1");
+    EXPECT_EQ(reordered.code, ExitCode::done) << reordered.err;
+    EXPECT_THAT(reordered.out, HasSubstr("in their new order.\n\n1  Invoices\n"));
+    const auto off = QJsonDocument::fromJson(QByteArray::fromStdString(change("2", true).out));
+    EXPECT_EQ(off[1][u"name"].toString(), u"Old");
+    EXPECT_FALSE(off[1][u"isEnabled"].toBool(true));
+
+    const struct {
+        const char* number;
+        ExitCode code;
+        const char* said;
+    } rows[] = {
+        {"1", ExitCode::someFailed, "done already"},
+        {"3", ExitCode::usage, "There is no change 3; Dobbin's answer offers 2 changes\n"},
+        {"0", ExitCode::usage, "“0” is not the number of a change"},
+        {"-1", ExitCode::usage, "is not the number of a change"},
+    };
+    for (const auto& row : rows) {
+        const auto result = change(row.number);
+        EXPECT_EQ(result.code, row.code) << row.number;
+        EXPECT_THAT(result.err, HasSubstr(row.said));
+        EXPECT_THAT(result.out, IsEmpty());
+    }
+}
+
+TEST_F(AskVerb, runsFoldersWritesRulesAndKnowsWhatHasGone) {
+    play(u"Run in now, or add a new rule."_s,
+         {change(u"runFolder"_s), change(u"writeRule"_s, {}, u"Move PDFs to \"My Bills\""_s)});
+    const auto asked = bench.run({"ask", "--json", "What now with the pdf?"});
+    const auto json = QJsonDocument::fromJson(QByteArray::fromStdString(asked.out));
+    EXPECT_EQ(json[u"question"].toString(), u"What now with the pdf?");
+    EXPECT_FALSE(json[u"isError"].toBool(true));
+    EXPECT_EQ(json[u"actions"][0][u"label"].toString(), u"Run in now");
+    EXPECT_EQ(json[u"actions"][1][u"command"].toString(), u"quillon ask --do 2");
+    bench.write("in/other.pdf", "paid");
+    EXPECT_THAT(change("1").out, HasSubstr("other.pdf  moved to Old\n\nin: tidied 1 file.\n"));
+
+    const auto refused = change("2");
+    EXPECT_EQ(refused.code, ExitCode::someFailed) << "the model's rule can't be understood";
+    EXPECT_THAT(refused.err, Not(IsEmpty()));
+    server.play("/api/chat", ModelServer::chatAnswer(writtenRule));
+    bench.write("in/a bill.txt", "owed");
+    for (int time = 0; time < 2; ++time)
+        EXPECT_THAT(change("2").out, AllOf(HasSubstr("Would catch 1 of 1 file: a bill.txt"),
+                                           HasSubstr("saved: quillon write-rule " + bench.at("in") +
+                                                     " 'Move PDFs to \"My Bills\"' --save\n")));
+    EXPECT_THAT(bench.run({"rule", "list", "--folder", "@in"}).out, Not(HasSubstr("Bills")));
+    mustRun({"folder", "remove", "@in"});
+    for (const char* number : {"1", "2"}) {
+        EXPECT_EQ(change(number).code, ExitCode::someFailed) << number;
+    }
+    EXPECT_THAT(change("2").err, HasSubstr("“in” is no longer watched"));
+}
+
+TEST_F(AskVerb, saysWhatIsMissingAndStillHelps) {
+    server.haveModels({});
+    const std::string longQuestion(4001, 'x');
+    const struct {
+        std::vector<std::string> arguments;
+        ExitCode code;
+        const char* said;
+    } rows[] = {
+        {{"ask", "where?"}, ExitCode::someFailed, "Run “quillon model pull” to download one.\n"},
+        {{"ask", "--json", "where?"}, ExitCode::someFailed, R"("isError":true)"},
+        {{"ask", "What can you do?"}, ExitCode::done, "Ask me in plain English and I can:\n\n•"},
+        {{"ask", "--do", "1"}, ExitCode::someFailed, "No answer of Dobbin's offers a change"},
+        {{"ask"}, ExitCode::usage, "Give either a question or --do N"},
+        {{"ask", " \n "}, ExitCode::usage, "Give either a question or --do N"},
+        {{"ask", "where?", "--do", "1"}, ExitCode::usage, "Give either a question or --do N"},
+        {{"ask", longQuestion}, ExitCode::usage, "too long"},
+    };
+    for (const auto& row : rows) {
+        const auto result = bench.run(row.arguments);
+        EXPECT_EQ(result.code, row.code) << row.arguments.back();
+        EXPECT_THAT(result.out + result.err, HasSubstr(row.said));
+    }
+    bench.write("data/Quillon/dobbin-chat.json", "[");
+    EXPECT_THAT(bench.run({"ask", "What can you do?"}).err,
+                HasSubstr("and the conversation with Dobbin starts anew\n"));
+}
+
+} // namespace
+} // namespace quillon::testing
