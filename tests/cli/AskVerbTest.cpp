@@ -26,18 +26,18 @@ const QString writtenRule =
 class AskVerb : public ::testing::Test {
 protected:
     void SetUp() override {
-        mustRun({"settings", "set", "ai.localHost", server.host().toStdString()});
-        server.haveModels({u"phi4:latest"_s});
+        mustRun({"settings", "set", "ai.localHost", server_.host().toStdString()});
+        server_.haveModels({u"phi4:latest"_s});
         mustRun({"folder", "add", "@in", "--timing", "manual"});
         for (const char* rule : {"Old", "Invoices"})
             mustRun({"rule", "add", "--folder", "@in", "--name", rule, "--if", "extension is pdf",
-                     "--then", "move to " + bench.at(rule)});
-        bench.write("in/invoice.pdf", "paid");
+                     "--then", "move to " + bench_.at(rule)});
+        bench_.write("in/invoice.pdf", "paid");
         mustRun({"run"});
     }
 
     void mustRun(const std::vector<std::string>& arguments) {
-        const auto result = bench.run(arguments);
+        const auto result = bench_.run(arguments);
         ASSERT_EQ(result.code, ExitCode::done) << arguments[0] << ": " << result.err;
     }
     /// What the model says to a question, which changes it then finds in that, and the rule that it
@@ -45,9 +45,9 @@ protected:
     void play(const QString& answer, const QJsonArray& changes = {}) {
         const QByteArray list =
             QJsonDocument(QJsonObject{{u"actions"_s, changes}}).toJson(QJsonDocument::Compact);
-        server.play("/api/chat", std::deque{ModelServer::chatAnswer(answer),
-                                            ModelServer::chatAnswer(QString::fromUtf8(list)),
-                                            ModelServer::chatAnswer(u"{}"_s)});
+        server_.play("/api/chat", std::deque{ModelServer::chatAnswer(answer),
+                                             ModelServer::chatAnswer(QString::fromUtf8(list)),
+                                             ModelServer::chatAnswer(u"{}"_s)});
     }
     static QJsonObject change(const QString& type, const QString& rule = {},
                               const QString& description = {}) {
@@ -61,19 +61,19 @@ protected:
         std::vector<std::string> arguments{"ask", "--do", number};
         if (json)
             arguments.emplace_back("--json");
-        return bench.run(arguments);
+        return bench_.run(arguments);
     }
 
-    int argc = 0;
-    QCoreApplication application{argc, nullptr};
-    ModelServer server;
-    CommandBench bench;
+    int argc_ = 0;
+    QCoreApplication application_{argc_, nullptr};
+    ModelServer server_;
+    CommandBench bench_;
 };
 
 TEST_F(AskVerb, answersWithEntriesAndChangesThatCanBeCarriedOut) {
     play(u"invoice.pdf went to Old.\nMove Invoices above Old."_s,
          {change(u"reorderRules"_s), change(u"turnOffRule"_s, u"Old"_s)});
-    const auto asked = bench.run({"ask", "Where", "did", "invoice.pdf", "go?"});
+    const auto asked = bench_.run({"ask", "Where", "did", "invoice.pdf", "go?"});
     EXPECT_EQ(asked.code, ExitCode::done) << asked.err;
     EXPECT_THAT(asked.out,
                 MatchesRegex("invoice.pdf went to Old.\nMove Invoices above Old.\n\n"
@@ -112,25 +112,26 @@ TEST_F(AskVerb, answersWithEntriesAndChangesThatCanBeCarriedOut) {
 TEST_F(AskVerb, runsFoldersWritesRulesAndKnowsWhatHasGone) {
     play(u"Run in now, or add a new rule."_s,
          {change(u"runFolder"_s), change(u"writeRule"_s, {}, u"Move PDFs to \"My Bills\""_s)});
-    const auto asked = bench.run({"ask", "--json", "What now with the pdf?"});
+    const auto asked = bench_.run({"ask", "--json", "What now with the pdf?"});
     const auto json = QJsonDocument::fromJson(QByteArray::fromStdString(asked.out));
     EXPECT_EQ(json[u"question"].toString(), u"What now with the pdf?");
     EXPECT_FALSE(json[u"isError"].toBool(true));
     EXPECT_EQ(json[u"actions"][0][u"label"].toString(), u"Run in now");
     EXPECT_EQ(json[u"actions"][1][u"command"].toString(), u"quillon ask --do 2");
-    bench.write("in/other.pdf", "paid");
+    bench_.write("in/other.pdf", "paid");
     EXPECT_THAT(change("1").out, HasSubstr("other.pdf  moved to Old\n\nin: tidied 1 file.\n"));
 
     const auto refused = change("2");
     EXPECT_EQ(refused.code, ExitCode::someFailed) << "the model's rule can't be understood";
     EXPECT_THAT(refused.err, Not(IsEmpty()));
-    server.play("/api/chat", ModelServer::chatAnswer(writtenRule));
-    bench.write("in/a bill.txt", "owed");
+    server_.play("/api/chat", ModelServer::chatAnswer(writtenRule));
+    bench_.write("in/a bill.txt", "owed");
     for (int time = 0; time < 2; ++time)
-        EXPECT_THAT(change("2").out, AllOf(HasSubstr("Would catch 1 of 1 file: a bill.txt"),
-                                           HasSubstr("saved: quillon write-rule " + bench.at("in") +
-                                                     " 'Move PDFs to \"My Bills\"' --save\n")));
-    EXPECT_THAT(bench.run({"rule", "list", "--folder", "@in"}).out, Not(HasSubstr("Bills")));
+        EXPECT_THAT(change("2").out,
+                    AllOf(HasSubstr("Would catch 1 of 1 file: a bill.txt"),
+                          HasSubstr("saved: quillon write-rule " + bench_.at("in") +
+                                    " 'Move PDFs to \"My Bills\"' --save\n")));
+    EXPECT_THAT(bench_.run({"rule", "list", "--folder", "@in"}).out, Not(HasSubstr("Bills")));
     mustRun({"folder", "remove", "@in"});
     for (const char* number : {"1", "2"}) {
         EXPECT_EQ(change(number).code, ExitCode::someFailed) << number;
@@ -139,7 +140,7 @@ TEST_F(AskVerb, runsFoldersWritesRulesAndKnowsWhatHasGone) {
 }
 
 TEST_F(AskVerb, saysWhatIsMissingAndStillHelps) {
-    server.haveModels({});
+    server_.haveModels({});
     const std::string longQuestion(4001, 'x');
     const struct {
         std::vector<std::string> arguments;
@@ -156,12 +157,12 @@ TEST_F(AskVerb, saysWhatIsMissingAndStillHelps) {
         {{"ask", longQuestion}, ExitCode::usage, "too long"},
     };
     for (const auto& row : rows) {
-        const auto result = bench.run(row.arguments);
+        const auto result = bench_.run(row.arguments);
         EXPECT_EQ(result.code, row.code) << row.arguments.back();
         EXPECT_THAT(result.out + result.err, HasSubstr(row.said));
     }
-    bench.write("data/Quillon/dobbin-chat.json", "[");
-    EXPECT_THAT(bench.run({"ask", "What can you do?"}).err,
+    bench_.write("data/Quillon/dobbin-chat.json", "[");
+    EXPECT_THAT(bench_.run({"ask", "What can you do?"}).err,
                 HasSubstr("and the conversation with Dobbin starts anew\n"));
 }
 
