@@ -46,14 +46,17 @@ QDateTime localNow(const Clock& clock) {
     return QDateTime::fromMSecsSinceEpoch(now.time_since_epoch().count());
 }
 
-/// Those of files that are shown: what is wrong elsewhere is another question.
-std::vector<RuleConflict> conflictsShown(const std::vector<RuleConflict>& conflicts,
-                                         const std::vector<LogEntry>& entries) {
-    std::vector<RuleConflict> shown;
-    std::ranges::copy_if(conflicts, std::back_inserter(shown), [&](const RuleConflict& conflict) {
-        return std::ranges::find(entries, conflict.fileName, &LogEntry::fileName) != entries.end();
+/// Those of files that are shown and of rules that the answer speaks of: a last rule for whatever
+/// is left competes with every other one, which is as it should be.
+std::vector<RuleConflict> conflictsMeant(const std::vector<RuleConflict>& conflicts,
+                                         const ChatTurn& answer) {
+    std::vector<RuleConflict> meant;
+    std::ranges::copy_if(conflicts, std::back_inserter(meant), [&](const RuleConflict& conflict) {
+        return answer.text.contains(conflict.laterName, Qt::CaseInsensitive) &&
+               std::ranges::find(answer.entries, conflict.fileName, &LogEntry::fileName) !=
+                   answer.entries.end();
     });
-    return shown;
+    return meant;
 }
 
 } // namespace
@@ -201,8 +204,8 @@ DobbinChat::suggestedChanges(std::shared_ptr<Material> material, ChatTurn answer
         if (list)
             actions = actionsFromJson(*list, around_.store.folders());
     }
-    const auto more = fixes(conflictsShown(material->conflicts, answer.entries), actions,
-                            around_.store.folders());
+    const auto more =
+        fixes(conflictsMeant(material->conflicts, answer), actions, around_.store.folders());
     actions.insert(actions.end(), more.begin(), more.end());
     for (DobbinAction& action : actions)
         if (action.description)
