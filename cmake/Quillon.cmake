@@ -8,7 +8,7 @@ add_library(quillon_options INTERFACE)
 target_include_directories(quillon_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(quillon_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wconversion -Werror
-  $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${CCACHE}>,$<NOT:$<BOOL:${CMAKE_DISABLE_PRECOMPILE_HEADERS}>>>:-fpch-preprocess>)
+  $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${CCACHE}>>:-fpch-preprocess>)
 target_compile_definitions(quillon_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
   QUILLON_VERSION="${PROJECT_VERSION}")

@@ -23,7 +23,8 @@ public:
         sources_ = result.SourceManager;
         own_.clear();
         needsAll_ = false;
-        for (Decl* declaration : result.Nodes.getNodeAs<TranslationUnitDecl>("all")->decls()) {
+        const auto& all = *result.Nodes.getNodeAs<TranslationUnitDecl>("all");
+        for (Decl* declaration : all.noload_decls()) { // nothing precompiled is ours
             if (isOwn(*declaration)) {
                 own_.push_back(declaration);
                 collectFrom(*declaration);
