@@ -62,7 +62,7 @@ const QHash<QString, QString>& deedWords() {
         };
         add(u"trash trashed bin binned delete deleted deleting remove removed thrown throw",
             u"trash"_s);
-        add(u"move moved moving filed sorted put", u"moved"_s);
+        add(u"move moved moving filed sorted", u"moved"_s);
         add(u"rename renamed renaming", u"renamed"_s);
         add(u"copy copied copying duplicated", u"copied"_s);
         add(u"tag tagged tagging", u"tag"_s);
