@@ -2,7 +2,6 @@
 
 #include "cli/NamedFolder.h"
 #include "cli/UnknownWord.h"
-#include "platform/FileNames.h"
 #include "store/Sentences.h"
 
 #include <algorithm>
