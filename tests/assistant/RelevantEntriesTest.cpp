@@ -215,7 +215,7 @@ TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
         QString question, now, from, until;
         QString zone = u"Europe/Berlin"_s;
     };
-    const std::array<TimeRow, 26> rows{{
+    const std::array<TimeRow, 28> rows{{
         // A day of 23 hours, one of 25, and one that starts at one o'clock.
         {u"today"_s, u"2026-03-29 12:00"_s, u"2026-03-28T23:00:00Z"_s, u"2026-03-29T22:00:00Z"_s},
         {u"yesterday"_s, u"2026-10-26 12:00"_s, u"2026-10-24T22:00:00Z"_s,
@@ -267,6 +267,10 @@ TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
          u"2026-05-22T22:00:00Z"_s},
         {u"yesterday at 15:30"_s, u"2026-05-23 15:00"_s, u"2026-05-22T12:30:00Z"_s,
          u"2026-05-22T14:30:00Z"_s},
+        {u"yesterday afternoon at 3:30"_s, u"2026-05-23 15:00"_s, u"2026-05-22T12:30:00Z"_s,
+         u"2026-05-22T14:30:00Z"_s},
+        {u"last night at 2:00"_s, u"2026-05-23 15:00"_s, u"2026-05-22T23:00:00Z"_s,
+         u"2026-05-23T01:00:00Z"_s},
     }};
     for (const TimeRow& row : rows) {
         SCOPED_TRACE(row.question.toStdString() + " on " + row.now.toStdString());
