@@ -31,9 +31,8 @@ FolderView::FolderView(const Platform& platform, const DobbinJudge& judge,
 Expected<FolderView> FolderView::read(const Platform& platform, const DobbinJudge& judge,
                                       const EngineSettings& settings,
                                       const SuggestionRequest& request) {
-    // A listing asks no judge.
-    QuietJudge unused(judge);
-    Expected<ReadyFiles> ready = RuleEngine(platform, unused, settings).readyFiles(request.folder);
+    QuietJudge before(judge); // what the folder's own rules wait for is not what others would
+    Expected<ReadyFiles> ready = RuleEngine(platform, before, settings).readyFiles(request.folder);
     if (!ready)
         return std::unexpected(ready.error());
     FolderView view(platform, judge, request.folder, std::move(*ready));
@@ -52,7 +51,7 @@ Expected<FolderView> FolderView::read(const Platform& platform, const DobbinJudg
         return view;
     }
     const std::vector<FirstMatch> taken =
-        firstMatches({platform, *view.judge_, rules, view.ready_->folder, view.now_}, files);
+        firstMatches({platform, before, rules, view.ready_->folder, view.now_}, files);
     for (std::size_t i = 0; i < files.size(); ++i)
         if (!taken[i].rule && !taken[i].waiting)
             view.files_.push_back(files[i]);
@@ -62,6 +61,10 @@ Expected<FolderView> FolderView::read(const Platform& platform, const DobbinJudg
 std::vector<std::uint64_t> FolderView::matches(const std::vector<Rule>& rules) const {
     const std::vector<CompiledRule> all = compiled(rules, true);
     return everyMatch({platform_, *judge_, all, ready_->folder, now_}, files_);
+}
+
+bool FolderView::isWaiting(const ListedFile& file) const {
+    return judge_->isWaiting(joinPath(ready_->folder, file.path));
 }
 
 bool FolderView::isSwitchedOff(const Rule& rule, std::span<const ListedFile* const> caught) const {

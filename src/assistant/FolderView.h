@@ -41,8 +41,14 @@ public:
     /// Those that a run now would leave where they are.
     [[nodiscard]] const std::vector<const ListedFile*>& files() const { return files_; }
 
+    /// How many may be tidied now, whatever the rules do with them.
+    [[nodiscard]] std::size_t tested() const { return ready_->files.size(); }
+
     /// For each of files() one bit a rule; see everyMatch(). 64 rules at most.
     [[nodiscard]] std::vector<std::uint64_t> matches(const std::vector<Rule>& rules) const;
+
+    /// Whether one of the rules that were matched would ask Dobbin about this one of files() first.
+    [[nodiscard]] bool isWaiting(const ListedFile& file) const;
 
     /// Whether one rule of the folder that is switched off would do the same kind of thing with
     /// every one of these files.

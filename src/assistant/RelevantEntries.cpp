@@ -62,7 +62,7 @@ const QHash<QString, QString>& deedWords() {
         };
         add(u"trash trashed bin binned delete deleted deleting remove removed thrown throw",
             u"trash"_s);
-        add(u"move moved moving filed sorted put", u"moved"_s);
+        add(u"move moved moving filed sorted", u"moved"_s);
         add(u"rename renamed renaming", u"renamed"_s);
         add(u"copy copied copying duplicated", u"copied"_s);
         add(u"tag tagged tagging", u"tag"_s);
@@ -271,8 +271,6 @@ bool isWithin(const LogEntry& entry, const AskedSpan& span) {
            (!span.until || entry.date < momentOf(*span.until));
 }
 
-} // namespace
-
 /// A name in double quotation marks is one thing to look for, whatever its words mean elsewhere.
 std::vector<Keyword> takeQuoted(QString& question) {
     static const QRegularExpression quoted(u"[“”„\"«»]([^“”„\"«»]{2,200})[“”\"«»]"_s);
@@ -286,6 +284,8 @@ std::vector<Keyword> takeQuoted(QString& question) {
     }
     return keywords;
 }
+
+} // namespace
 
 std::vector<LogEntry> relevantEntries(const QString& question, const std::vector<LogEntry>& logs,
                                       const QDateTime& now, std::size_t limit) {

@@ -34,6 +34,17 @@ std::vector<std::string> components(std::string_view path) {
     return names;
 }
 
+/// The folder as it is written. Fails also for what the system has no room for, which may be so
+/// long that following it would take for ever.
+Expected<std::string> writtenFolder(const QString& destination, const Platform& platform) {
+    auto folder = destinationFolder(destination, platform.folders);
+    if (folder && (folder->size() > longestPath ||
+                   std::ranges::any_of(components(*folder),
+                                       [](auto& name) { return name.size() > maxNameBytes; })))
+        return failure(ErrorKind::invalid, u"its name is too long"_s);
+    return folder;
+}
+
 /// Links and ".." are followed in turn, as the system does it.
 std::string followed(const std::string& path, const FileSystem& fileSystem) {
     std::string place = "/";
@@ -88,28 +99,21 @@ std::optional<QString> resolveDestination(const QString& text, const RulePlace& 
 }
 
 Expected<std::string> landingPlace(const QString& destination, const Platform& platform) {
-    auto folder = destinationFolder(destination, platform.folders);
+    auto folder = writtenFolder(destination, platform);
     if (folder)
         *folder = followed(*folder, platform.fileSystem);
     return folder;
 }
 
-std::optional<QString> destinationWarning(const QString& destination, const RulePlace& place,
+std::optional<QString> destinationWarning(const QString& destination, const RulePlace& rulePlace,
                                           const Platform& platform) {
     const QString said = quotedForError(destination);
-    const auto folder = destinationFolder(destination, platform.folders);
-    if (!folder)
-        return u"%1 is no folder that files could go to: %2."_s.arg(said, folder.error().message);
-    const bool isTooLong =
-        folder->size() > longestPath || std::ranges::any_of(components(*folder), [](auto& name) {
-            return name.size() > maxNameBytes;
-        });
-    if (isTooLong)
-        return u"%1 is no folder that files could go to: its name is too long."_s.arg(said);
-
-    const std::string end = followed(*folder, platform.fileSystem);
+    const auto place = landingPlace(destination, platform);
+    if (!place)
+        return u"%1 is no folder that files could go to: %2."_s.arg(said, place.error().message);
+    const std::string& end = *place;
     const QString endText = QString::fromStdString(end);
-    const std::string own = ownFolder(end, place, platform);
+    const std::string own = ownFolder(end, rulePlace, platform);
     if (own.empty())
         return u"%1 lies outside of your own folders: files would go to %2."_s.arg(said, endText);
     if (hasHiddenPart(std::string_view(end).substr(own.size())))

@@ -13,7 +13,8 @@ namespace quillon {
                                                         const RulePlace& place);
 
 /// The folder in which files that are sent there would end, with every link and ".." followed as it
-/// stands now; what isn't there yet would be made. Fails like destinationFolder. Looks at the disk.
+/// stands now; what isn't there yet would be made. Fails like destinationFolder, and for a name
+/// that is too long. Looks at the disk.
 [[nodiscard]] Expected<std::string> landingPlace(const QString& destination,
                                                  const Platform& platform);
 
@@ -21,7 +22,8 @@ namespace quillon {
 /// outside of this folder, the other watched ones and the home folder once links and ".." are
 /// followed, it is hidden, or it is no folder that could be made. Nothing when all is well. Looks
 /// at the disk.
-[[nodiscard]] std::optional<QString>
-destinationWarning(const QString& destination, const RulePlace& place, const Platform& platform);
+[[nodiscard]] std::optional<QString> destinationWarning(const QString& destination,
+                                                        const RulePlace& rulePlace,
+                                                        const Platform& platform);
 
 } // namespace quillon

@@ -38,6 +38,10 @@ Expected<RuleSuggestion> suggestionFromJson(const JsonReader& json) {
     if (!read)
         return std::unexpected(read.error());
     suggestion.rule = std::move(*read);
+    const bool namesExtensions =
+        suggestion.topic != SuggestionTopic::extension || !suggestion.subjects.isEmpty();
+    if (suggestion.rule.actions.empty() || !namesExtensions)
+        return json.wrong(u"this is no suggestion"_s);
     return fields.result(std::move(suggestion));
 }
 

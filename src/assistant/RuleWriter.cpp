@@ -145,6 +145,7 @@ void addConditions(RuleDraft& draft, const SaidRule& said) {
             conditions.push_back(*std::move(condition));
     if (conditions.size() == said.conditions.size())
         return;
+    draft.needsConsent = true;
     draft.warnings.append(
         conditions.empty()
             ? u"Dobbin asked only for things that a rule can't look at, so no condition is left."_s
@@ -168,9 +169,11 @@ void addActions(RuleDraft& draft, const SaidRule& said, const RulePlace& place) 
         if (action && std::ranges::find(actions, action->type, &RuleAction::type) == actions.end())
             actions.push_back(*action);
     }
-    if (!isComplete)
-        draft.warnings.append(
-            u"Dobbin asked for something that its rules can't do. That step is left out."_s);
+    if (isComplete)
+        return;
+    draft.needsConsent = true;
+    draft.warnings.append(
+        u"Dobbin asked for something that its rules can't do. That step is left out."_s);
 }
 
 void addDestinationWarnings(RuleDraft& draft, const RulePlace& place, const Platform& platform) {
@@ -209,7 +212,8 @@ Expected<RuleDraft> draftFromJson(const QString& answer, const RulePlace& place,
         return std::unexpected(asError({.kind = AIError::Kind::badResponse}));
     draft.rule.name = ruleName(said->name, draft.rule);
     const QStringList misunderstood = valueWarnings(draft.rule);
-    draft.needsConsent = !misunderstood.isEmpty() || catchesNothingOrAll(draft.rule);
+    draft.needsConsent =
+        draft.needsConsent || !misunderstood.isEmpty() || catchesNothingOrAll(draft.rule);
     draft.warnings += validationWarnings(draft.rule) + misunderstood;
     addDestinationWarnings(draft, place, platform);
     return draft;

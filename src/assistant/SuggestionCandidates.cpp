@@ -1,5 +1,6 @@
 #include "assistant/SuggestionCandidates.h"
 
+#include "assistant/RuleSuggestions.h"
 #include "engine/FileFacts.h"
 #include "engine/KindClassifier.h"
 #include "model/CleanupRecipe.h"
@@ -20,7 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::size_t fewest = 3;
 constexpr std::size_t mostExtensions = 12;
 constexpr std::size_t mostHosts = 4;
 // Origins are read file by file: of these to find the hosts, and of all to count what one rule
@@ -142,7 +142,7 @@ public:
     [[nodiscard]] QStringList mostCommon(std::size_t most) const {
         std::vector<std::pair<std::size_t, QString>> found;
         for (const auto& [text, count] : counts_.asKeyValueRange())
-            if (count >= fewest)
+            if (count >= fewestFiles)
                 found.emplace_back(count, text);
         std::ranges::sort(found, [](const auto& one, const auto& other) {
             return one.first != other.first ? one.first > other.first : one.second < other.second;

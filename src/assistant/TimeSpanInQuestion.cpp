@@ -376,7 +376,10 @@ private:
         const AskedSpan within = result_.span.value_or(day(today_));
         if (!within.from || !within.until || within.from->daysTo(*within.until) > 1)
             return;
-        const QDateTime moment(within.from->date(), time, zone_);
+        QDateTime moment(within.from->date(), time, zone_);
+        // "this afternoon at 3:30", "last night at 2:00"
+        for (int halfDays = 0; halfDays < 2 && moment < *within.from; ++halfDays)
+            moment = moment.addSecs(12 * hour);
         result_.span = {.from = moment.addSecs(-hour), .until = moment.addSecs(hour)};
     }
 

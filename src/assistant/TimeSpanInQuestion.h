@@ -12,19 +12,12 @@ namespace quillon {
 struct AskedSpan {
     std::optional<QDateTime> from;
     std::optional<QDateTime> until;
-
-    bool operator==(const AskedSpan&) const = default;
-    [[nodiscard]] bool contains(const QDateTime& moment) const {
-        return (!from || moment >= *from) && (!until || moment < *until);
-    }
 };
 
 struct TimeInQuestion {
     std::optional<AskedSpan> span = std::nullopt;
     bool wantsLatest = false; ///< "latest", "most recent", "just now"
     QStringList otherWords;   ///< those that say nothing about time, in their order
-
-    bool operator==(const TimeInQuestion&) const = default;
 };
 
 /// What the words of a question, as questionWords() gives them, say about when: "today", "this

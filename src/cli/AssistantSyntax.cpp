@@ -7,12 +7,6 @@ namespace {
 
 constexpr qsizetype longestQuestion = 4000;
 
-std::string parseNumber(const std::string& text, std::optional<std::size_t>& number) {
-    bool isNumber = false;
-    number = QByteArray::fromStdString(text).toUInt(&isNumber);
-    return isNumber && *number > 0 ? std::string() : "“" + text + "” is not the number of a change";
-}
-
 } // namespace
 
 Command defineKeySet(CLI::App& /*parser*/) {
@@ -53,9 +47,8 @@ Command defineAsk(CLI::App& parser) {
     const auto options = std::make_shared<AskOptions>();
     const auto words = std::make_shared<std::vector<std::string>>();
     parser.add_option("QUESTION", *words, "What to ask, in your own words")->type_name("");
-    addParsed(parser, "--do", options->number, parseNumber,
-              "Carry out change N of the newest answer that offers any")
-        ->type_name("N");
+    addNumber(parser, "--do", options->number, "a change",
+              "Carry out change N of the newest answer that offers any");
     addJson(parser, options->json);
     parser.callback([options, words] {
         options->question = CLI::detail::join(*words, " ");

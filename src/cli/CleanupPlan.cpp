@@ -2,7 +2,6 @@
 
 #include "cli/NamedFolder.h"
 #include "cli/UnknownWord.h"
-#include "platform/FileNames.h"
 #include "store/Sentences.h"
 
 #include <algorithm>
@@ -60,16 +59,7 @@ Chosen<WatchedFolder> folderToClean(const CleanupOptions& options,
         return *folder;
     else if (options.keeps)
         return std::unexpected(folder.error());
-    const std::string path =
-        services.platform().fileSystem.resolved(absolutePath(options.folder, console));
-    if (!isValidUtf8(path))
-        return refusal(ExitCode::unreadable,
-                       u"The folder %1 can't be read: its path is not valid UTF-8"_s.arg(
-                           pathText(options.folder)));
-    WatchedFolder folder;
-    folder.id = QUuid();
-    folder.path = pathText(path);
-    return folder;
+    return plainFolderAt(options.folder, console, services);
 }
 
 } // namespace

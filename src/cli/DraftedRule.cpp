@@ -1,16 +1,12 @@
 #include "cli/DraftedRule.h"
 
-#include "assistant/QuietJudge.h"
+#include "assistant/FolderView.h"
 #include "assistant/RuleDestination.h"
 #include "assistant/backends/AIManager.h"
-#include "cli/NamedFolder.h"
-#include "cli/StoreFailure.h"
 #include "platform/FileNames.h"
 #include "platform/FileSystem.h"
 #include "service/LoopTask.h"
 #include "store/Sentences.h"
-
-#include <algorithm>
 
 namespace quillon {
 
@@ -18,30 +14,18 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-Chosen<WatchedFolder> unwatchedFolder(const std::string& path, const Console& console,
-                                      Services& services) {
-    const std::string resolved =
-        services.platform().fileSystem.resolved(absolutePath(path, console));
-    if (!isValidUtf8(resolved))
-        return refusal(
-            ExitCode::unreadable,
-            u"The folder %1 can't be read: its path is not valid UTF-8"_s.arg(pathText(path)));
-    WatchedFolder folder;
-    folder.path = pathText(resolved);
-    return folder;
-}
-
-/// Files are looked at as a run would, but what only Dobbin knows isn't asked for a rule that may
-/// never be saved.
-void lookWhatItCatches(DraftedRule& drafted, const ReadyFiles& ready, Services& services) {
-    QuietJudge judge(services.judge());
-    const RuleEngine engine(services.platform(), judge);
-    const MatchProbe probe = engine.probe(drafted.draft.rule, ready);
-    drafted.matches = probe.matches;
-    drafted.tested = probe.tested;
-    for (const ListedFile& file : ready.files)
-        if (judge.isWaiting(joinPath(ready.folder, file.path)))
-            drafted.asks.append(pathText(lastComponent(file.path)));
+/// What only Dobbin knows isn't asked for a rule that may never be saved.
+void lookWhatItCatches(DraftedRule& drafted, const FolderView& view) {
+    const std::vector<std::uint64_t> matches = view.matches({drafted.draft.rule});
+    drafted.tested = view.tested();
+    for (std::size_t i = 0; i < matches.size(); ++i) {
+        const ListedFile& file = *view.files()[i];
+        const QString name = pathText(lastComponent(file.path));
+        if (matches[i] != 0)
+            drafted.matches.append(name);
+        if (view.isWaiting(file))
+            drafted.asks.append(name);
+    }
 }
 
 QStringList destinationsOf(const Rule& rule, const Platform& platform) {
@@ -54,35 +38,17 @@ QStringList destinationsOf(const Rule& rule, const Platform& platform) {
 
 } // namespace
 
-std::expected<DraftPlace, ExitCode> draftPlaceAt(const std::string& path, const Console& console,
-                                                 Services& services) {
-    const auto view = services.viewStore();
-    if (!view)
-        return std::unexpected(sayStoreFailure(view.error(), console));
-    for (const QString& warning : view->warnings)
-        console.say(warning);
-    DraftPlace found{.place = {.folder = {}, .otherFolders = view->state.folders}};
-    const auto watched = watchedFolderAt(path, view->state.folders, console, services);
-    found.isWatched = watched.has_value();
-    const auto folder = watched ? watched : unwatchedFolder(path, console, services);
-    if (!folder)
-        return std::unexpected(sayRefusal(folder.error(), console));
-    found.place.folder = *folder;
-    std::erase_if(found.place.otherFolders,
-                  [&](const WatchedFolder& other) { return other.id == folder->id; });
-    return found;
-}
-
-Chosen<DraftedRule> draftRule(const QString& sentence, const RulePlace& place,
+Chosen<DraftedRule> draftRule(const QString& sentence, const FolderPlace& place,
                               const Console& console, Services& services) {
-    QuietJudge judge(services.judge());
-    const auto ready = RuleEngine(services.platform(), judge).readyFiles(place.folder);
-    if (!ready)
+    const auto view = FolderView::read(services.platform(), services.judge(), {},
+                                       {.folder = place.folder, .handled = place.handled});
+    if (!view)
         return refusal(ExitCode::unreadable, u"The folder %1 can't be read: %2"_s.arg(
-                                                 place.folder.path, ready.error().message));
+                                                 place.folder.path, view.error().message));
+    const RulePlace rulePlace{.folder = place.folder, .otherFolders = place.otherFolders};
     const auto answer = resultOnLoop<Expected<QString>>(
         services,
-        [&services, request = ruleRequest(sentence, place)] {
+        [&services, request = ruleRequest(sentence, rulePlace)] {
             return services.assistant().send(request);
         },
         console.mayContinue);
@@ -90,12 +56,12 @@ Chosen<DraftedRule> draftRule(const QString& sentence, const RulePlace& place,
         return refusal(ExitCode::someFailed, u"Stopped on request; no rule was written"_s);
     if (!*answer)
         return refusal(ExitCode::someFailed, answer->error().message);
-    auto draft = draftFromJson(**answer, place, services.platform());
+    auto draft = draftFromJson(**answer, rulePlace, services.platform());
     if (!draft)
         return refusal(ExitCode::someFailed, draft.error().message);
     DraftedRule drafted{.draft = std::move(*draft)};
     drafted.destinations = destinationsOf(drafted.draft.rule, services.platform());
-    lookWhatItCatches(drafted, *ready, services);
+    lookWhatItCatches(drafted, *view);
     return drafted;
 }
 

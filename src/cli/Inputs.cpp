@@ -2,7 +2,6 @@
 
 #include "cli/NamedFolder.h"
 #include "model/RuleFile.h"
-#include "platform/FileNames.h"
 #include "store/Sentences.h"
 
 #include <array>
@@ -52,22 +51,19 @@ Expected<FolderInput> readInput(const FolderOptions& options, const Console& con
     if (!rules)
         return std::unexpected(rules.error());
 
-    const std::string path =
-        services.platform().fileSystem.resolved(absolutePath(options.folder, console));
-    const QString name = u"The folder %1 can't be read"_s.arg(pathText(options.folder));
-    if (!isValidUtf8(path))
-        return failure(ErrorKind::invalid, name + u": its path is not valid UTF-8"_s);
-
+    const auto folder = plainFolderAt(options.folder, console, services);
+    if (!folder)
+        return failure(ErrorKind::invalid, folder.error().sentence);
     FolderInput input;
-    input.folder.id = QUuid();
-    input.folder.path = pathText(path);
+    input.folder = *folder;
     input.folder.isRecursive = options.isRecursive;
     input.folder.skipOnlineOnly = options.skipOnlineOnly;
     input.settings.settleTime = std::chrono::duration<double>(options.settleSeconds);
     input.settings.mayContinue = console.mayContinue;
     auto ready = services.engine(input.settings).readyFiles(input.folder);
     if (!ready)
-        return failedTo(name, ready.error());
+        return failedTo(u"The folder %1 can't be read"_s.arg(pathText(options.folder)),
+                        ready.error());
     input.ready = std::move(*ready);
     input.rules = std::move(*rules);
     if (input.rules.empty())

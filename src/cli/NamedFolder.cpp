@@ -63,4 +63,18 @@ Chosen<WatchedFolder> watchedFolderAt(const std::string& path,
                    u"The folder %1 is not watched; %2"_s.arg(pathText(path), nearest));
 }
 
+Chosen<WatchedFolder> plainFolderAt(const std::string& path, const Console& console,
+                                    Services& services) {
+    const std::string resolved =
+        services.platform().fileSystem.resolved(absolutePath(path, console));
+    if (!isValidUtf8(resolved))
+        return refusal(
+            ExitCode::unreadable,
+            u"The folder %1 can't be read: its path is not valid UTF-8"_s.arg(pathText(path)));
+    WatchedFolder folder;
+    folder.id = QUuid();
+    folder.path = pathText(resolved);
+    return folder;
+}
+
 } // namespace quillon

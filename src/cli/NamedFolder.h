@@ -18,4 +18,9 @@ namespace quillon {
                                                     const std::vector<WatchedFolder>& folders,
                                                     const Console& console, Services& services);
 
+/// The folder at a path, without rules and without an identity, be it watched or not. A refusal
+/// when the path is not valid UTF-8.
+[[nodiscard]] Chosen<WatchedFolder> plainFolderAt(const std::string& path, const Console& console,
+                                                  Services& services);
+
 } // namespace quillon

@@ -8,6 +8,7 @@
 #include "cli/RuleListOutput.h"
 #include "cli/RunOutput.h"
 #include "cli/ShellWord.h"
+#include "model/Uuid.h"
 #include "store/Sentences.h"
 
 #include <algorithm>
@@ -44,18 +45,18 @@ Chosen<Offer> offerMeant(std::size_t number, const std::vector<ChatTurn>& turns)
 
 ExitCode write(const DobbinAction& action, bool json, const StoreAccess& store,
                const Console& console, Services& services) {
-    RulePlace place;
-    bool isWatched = false;
+    FolderPlace place;
     store.call([&](AppStore& appStore) {
         for (const WatchedFolder& folder : appStore.folders())
             if (folder.id == action.folderID) {
                 place.folder = folder;
-                isWatched = true;
+                place.isWatched = true;
             } else {
                 place.otherFolders.push_back(folder);
             }
+        place.handled = appStore.processedFiles().value(uuidText(action.folderID));
     });
-    if (!isWatched) {
+    if (!place.isWatched) {
         console.say(u"“%1” is no longer watched"_s.arg(action.folderName));
         return ExitCode::someFailed;
     }

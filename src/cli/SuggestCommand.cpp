@@ -4,16 +4,13 @@
 #include "assistant/SuggestionNaming.h"
 #include "assistant/backends/AIManager.h"
 #include "cli/AddedRules.h"
+#include "cli/FolderPlace.h"
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
-#include "cli/NamedFolder.h"
 #include "cli/ShellWord.h"
-#include "cli/StoreFailure.h"
 #include "cli/SuggestOutput.h"
 #include "cli/Verbs.h"
-#include "model/Uuid.h"
 #include "platform/Clock.h"
-#include "platform/FileNames.h"
 #include "service/LoopTask.h"
 #include "store/Sentences.h"
 #include "store/SettingsTable.h"
@@ -32,38 +29,6 @@ constexpr std::chrono::seconds namingPatience{20};
 // What was shown is not what anybody remembers a day later.
 constexpr std::chrono::hours shownFor{24};
 
-struct Place {
-    SuggestionRequest request;
-    bool isWatched = false;
-};
-
-std::expected<Place, ExitCode> placeAt(const std::string& path, const Console& console,
-                                       Services& services) {
-    const auto store = services.viewStore();
-    if (!store)
-        return std::unexpected(sayStoreFailure(store.error(), console));
-    for (const QString& warning : store->warnings)
-        console.say(warning);
-
-    Place place;
-    if (auto watched = watchedFolderAt(path, store->state.folders, console, services)) {
-        place = {.request = {.folder = std::move(*watched)}, .isWatched = true};
-        place.request.handled =
-            store->state.processedFiles.value(uuidText(place.request.folder.id));
-        return place;
-    }
-    const std::string resolved =
-        services.platform().fileSystem.resolved(absolutePath(path, console));
-    if (!isValidUtf8(resolved)) {
-        console.say(
-            u"The folder %1 can't be read: its path is not valid UTF-8"_s.arg(pathText(path)));
-        return std::unexpected(ExitCode::unreadable);
-    }
-    place.request.folder.id = QUuid();
-    place.request.folder.path = pathText(resolved);
-    return place;
-}
-
 /// What is remembered of the folder. A file that can't be read is said, and costs nothing else.
 RememberedSuggestions remembered(const QString& path, const Console& console, Services& services) {
     auto found = services.suggestionMemory().of(path);
@@ -73,10 +38,10 @@ RememberedSuggestions remembered(const QString& path, const Console& console, Se
     return {.path = path};
 }
 
-std::expected<FolderView, ExitCode> viewOf(const SuggestionRequest& request,
-                                           const std::string& typed, const Console& console,
-                                           Services& services) {
-    auto view = FolderView::read(services.platform(), services.judge(), {}, request);
+std::expected<FolderView, ExitCode> viewOf(const FolderPlace& place, const std::string& typed,
+                                           const Console& console, Services& services) {
+    auto view = FolderView::read(services.platform(), services.judge(), {},
+                                 {.folder = place.folder, .handled = place.handled});
     if (view)
         return std::move(*view);
     console.say(u"The folder %1 can't be read: %2"_s.arg(pathText(typed), view.error().message));
@@ -104,12 +69,12 @@ std::vector<RuleSuggestion> named(std::vector<RuleSuggestion> counted, const Fol
 }
 
 ExitCode show(const SuggestOptions& options, const Console& console, Services& services) {
-    auto place = placeAt(options.folder, console, services);
+    const auto place = folderPlaceAt(options.folder, console, services);
     if (!place)
         return place.error();
-    const QString& path = place->request.folder.path;
+    const QString& path = place->folder.path;
     const RememberedSuggestions before = remembered(path, console, services);
-    const auto view = viewOf(place->request, options.folder, console, services);
+    const auto view = viewOf(*place, options.folder, console, services);
     if (!view)
         return view.error();
 
@@ -127,7 +92,7 @@ ExitCode show(const SuggestOptions& options, const Console& console, Services& s
         else if (*kept)
             console.say(**kept);
     }
-    const SuggestionList list{.folder = place->request.folder,
+    const SuggestionList list{.folder = place->folder,
                               .isWatched = place->isWatched,
                               .typed = options.folder,
                               .suggestions = suggestions};
@@ -165,10 +130,10 @@ ExitCode add(const SuggestOptions& options, const Console& console, Services& se
         return sayRefusal(suggestion.error(), console);
 
     // The folder may have changed since, or its rules.
-    const auto place = placeAt(options.folder, console, services);
+    const auto place = folderPlaceAt(options.folder, console, services);
     if (!place)
         return place.error();
-    const auto view = viewOf(place->request, options.folder, console, services);
+    const auto view = viewOf(*place, options.folder, console, services);
     if (!view)
         return view.error();
     if (chosenSuggestions(*view, {*suggestion}, memory.dismissedKeys()).empty()) {
@@ -181,10 +146,10 @@ ExitCode add(const SuggestOptions& options, const Console& console, Services& se
 }
 
 ExitCode dismiss(const SuggestOptions& options, const Console& console, Services& services) {
-    const auto place = placeAt(options.folder, console, services);
+    const auto place = folderPlaceAt(options.folder, console, services);
     if (!place)
         return place.error();
-    const WatchedFolder& folder = place->request.folder;
+    const WatchedFolder& folder = place->folder;
     const auto suggestion = shownBefore(
         *options.dismiss, remembered(folder.path, console, services), options.folder, services);
     if (!suggestion)

@@ -21,6 +21,22 @@ CLI::Option* addFolderOption(CLI::App& parser, std::string& folder,
     return parser.add_option("--folder", folder, description)->type_name("DIR");
 }
 
+CLI::Option* addNumber(CLI::App& parser, const std::string& name,
+                       std::optional<std::size_t>& number, const std::string& noun,
+                       const std::string& description) {
+    return parser
+        .add_option_function<std::string>(
+            name,
+            [=, &number](const std::string& text) {
+                bool isNumber = false;
+                number = QByteArray::fromStdString(text).toUInt(&isNumber);
+                if (!isNumber || *number == 0)
+                    throw CLI::ValidationError(name, "“" + text + "” is not the number of " + noun);
+            },
+            description)
+        ->type_name("N");
+}
+
 std::string notAmong(const std::string& word, const std::string& noun,
                      const std::vector<std::string>& words) {
     return "“" + word + "” is not " + noun + "; the nearest is “" + nearestWord(word, words) + "”";

@@ -40,6 +40,11 @@ CLI::Option* addParsed(CLI::App& parser, const std::string& name, T& value,
         description);
 }
 
+/// "--do N": which one of a list that was shown, from 1. `noun` is what it is one of.
+CLI::Option* addNumber(CLI::App& parser, const std::string& name,
+                       std::optional<std::size_t>& number, const std::string& noun,
+                       const std::string& description);
+
 /// "“evry15” is not a timing; the nearest is “every15”"
 [[nodiscard]] std::string notAmong(const std::string& word, const std::string& noun,
                                    const std::vector<std::string>& words);

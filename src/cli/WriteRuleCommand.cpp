@@ -53,21 +53,21 @@ Saving save(const RuleDraft& draft, const WriteRuleOptions& options, const Conso
     return saving;
 }
 
-QString savingHint(const DraftedRule& drafted, const DraftPlace& found) {
-    if (!found.isWatched)
+QString savingHint(const DraftedRule& drafted, const FolderPlace& place) {
+    if (!place.isWatched)
         return u"To keep it, watch the folder first: quillon folder add %1"_s.arg(
-            shellWord(found.place.folder.path));
+            shellWord(place.folder.path));
     return drafted.draft.needsConsent
                ? u"To keep it in spite of the warnings: add --save --anyway"_s
                : u"To keep it: add --save"_s;
 }
 
-ExitCode tellAsJson(const DraftedRule& drafted, const DraftPlace& found,
+ExitCode tellAsJson(const DraftedRule& drafted, const FolderPlace& place,
                     const WriteRuleOptions& options, const Console& console, Services& services) {
     const Saving saving =
         options.saves ? save(drafted.draft, options, console, services) : Saving{};
     JsonStream json;
-    json.beginObject().key("folder").text(found.place.folder.path);
+    json.beginObject().key("folder").text(place.folder.path);
     writeDraft(json, drafted);
     json.key("saved").truth(saving.isSaved);
     json.key("runs");
@@ -77,13 +77,13 @@ ExitCode tellAsJson(const DraftedRule& drafted, const DraftPlace& found,
     return std::max(saving.code, sayHowRunsEnded(saving.runs, console));
 }
 
-ExitCode tell(const DraftedRule& drafted, const DraftPlace& found, const WriteRuleOptions& options,
+ExitCode tell(const DraftedRule& drafted, const FolderPlace& place, const WriteRuleOptions& options,
               const Console& console, Services& services) {
     {
         LineBuffer lines(console.out, console.colored);
         addDraft(drafted, lines);
         if (!options.saves)
-            lines.add(savingHint(drafted, found)).endLine();
+            lines.add(savingHint(drafted, place)).endLine();
     }
     console.out.flush(); // before anything is said or asked about it
     if (!options.saves)
@@ -91,7 +91,7 @@ ExitCode tell(const DraftedRule& drafted, const DraftPlace& found, const WriteRu
     const Saving saving = save(drafted.draft, options, console, services);
     if (saving.isSaved) {
         LineBuffer lines(console.out, console.colored);
-        lines.add(u"Saved as a rule of %1."_s.arg(found.place.folder.name())).endLine();
+        lines.add(u"Saved as a rule of %1."_s.arg(place.folder.name())).endLine();
         lines.endLine();
         addRuns(saving.runs, lines);
     }
@@ -102,20 +102,20 @@ ExitCode tell(const DraftedRule& drafted, const DraftPlace& found, const WriteRu
 
 ExitCode writeRuleCommand(const WriteRuleOptions& options, const Console& console,
                           Services& services) {
-    const auto found = draftPlaceAt(options.folder, console, services);
-    if (!found)
-        return found.error();
-    if (options.saves && !found->isWatched) {
+    const auto place = folderPlaceAt(options.folder, console, services);
+    if (!place)
+        return place.error();
+    if (options.saves && !place->isWatched) {
         console.say(u"The folder %1 is not watched, so it can keep no rule; first: quillon folder "
-                    "add %2"_s.arg(pathText(options.folder), shellWord(found->place.folder.path)));
+                    "add %2"_s.arg(pathText(options.folder), shellWord(place->folder.path)));
         return ExitCode::usage;
     }
-    const auto drafted = draftRule(QString::fromStdString(options.sentence).trimmed(), found->place,
-                                   console, services);
+    const auto drafted =
+        draftRule(QString::fromStdString(options.sentence).trimmed(), *place, console, services);
     if (!drafted)
         return sayRefusal(drafted.error(), console);
-    return options.json ? tellAsJson(*drafted, *found, options, console, services)
-                        : tell(*drafted, *found, options, console, services);
+    return options.json ? tellAsJson(*drafted, *place, options, console, services)
+                        : tell(*drafted, *place, options, console, services);
 }
 
 } // namespace quillon

@@ -56,20 +56,17 @@ TEST(DobbinActionTest, ResolvesWhatFitsTheFolders) {
         QString label; ///< none: the proposal is dropped
         QString detail = {};
     };
-    const std::array<Row, 27> rows{{
+    const std::array<Row, 20> rows{{
         {u"{'type':'runFolder','folder':'Downloads'}"_s, u"Run Downloads now"_s},
         {u"{'type':'runFolder','folder':' “dOWNLOADS” '}"_s, u"Run Downloads now"_s},
         {u"{'type':'runFolder','folder':'Music'}"_s, {}},
         {u"{'type':'runFolder','folder':' ” '}"_s, {}},
-        {u"{'type':'runFolder'}"_s, {}},
         {u"{'type':'RunFolder','folder':'Downloads'}"_s, {}},
-        {u"{'type':7,'folder':'Downloads'}"_s, {}},
         {u"{'type':'turnOnRule','folder':'Downloads','rule':'receipts'}"_s, u"Turn on “Receipts”"_s,
          u"2"_s},
         {u"{'type':'turnOffRule','folder':'Desktop','rule':'“Screens”'}"_s, u"Turn off “Screens”"_s,
          u"5"_s},
         {u"{'type':'turnOnRule','folder':'Downloads','rule':'Screens'}"_s, {}},
-        {u"{'type':'turnOnRule','folder':'Downloads','rule':''}"_s, {}},
         {u"{'type':'turnOnRule','folder':'Downloads','rule':['Receipts']}"_s, {}},
         {u"{'type':'turnOffRule','folder':'Downloads','rule':'"_s + QString(117, u'x') + u"…'}"_s,
          u"Turn off “"_s + QString(200, u'x') + u"y”"_s, u"4"_s},
@@ -80,20 +77,16 @@ TEST(DobbinActionTest, ResolvesWhatFitsTheFolders) {
          u"Reorder rules in Downloads"_s, u"31"_s},
         {u"{'type':'reorderRules','folder':'Downloads','ruleOrder':['Installers','Receipts']}"_s,
          {}},
-        {u"{'type':'reorderRules','folder':'Downloads','ruleOrder':['Installers']}"_s, {}},
         {u"{'type':'reorderRules','folder':'Downloads','ruleOrder':['Unicorns']}"_s, {}},
         {u"{'type':'reorderRules','folder':'Downloads','ruleOrder':'Receipts'}"_s, {}},
-        {u"{'type':'reorderRules','folder':'Downloads'}"_s, {}},
         {u"{'type':'reorderRules','folder':'Desktop','ruleOrder':['Screens','Screens']}"_s, {}},
         {u"{'type':'writeRule','folder':'Desktop','description':' Move PDFs\\n to Paper. '}"_s,
          u"Write this rule for Desktop"_s, u"Move PDFs to Paper."_s},
         {u"{'type':'writeRule','folder':'Desktop','description':' \\n\\t '}"_s, {}},
-        {u"{'type':'writeRule','folder':'Desktop'}"_s, {}},
         {u"{'type':'writeRule','folder':'Desktop','description':'"_s + QString(5000, u'x') +
              u"'}"_s,
          {}},
         {u"['runFolder','Downloads']"_s, {}},
-        {u"{}"_s, {}},
     }};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.raw.left(120).toStdString());

@@ -117,7 +117,7 @@ QStringList namesOf(const std::vector<LogEntry>& entries) {
 TEST(RelevantEntriesTest, ChoosesWhatAQuestionIsAbout) {
     const std::vector<LogEntry> log = madeLog();
     ASSERT_EQ(log.size(), 400U);
-    const std::array<Row, 50> rows{{
+    const std::array<Row, 47> rows{{
         // By name.
         {u"Where did Setup.dmg go?"_s, {u"Setup.dmg"_s, u"Setup 2.dmg"_s}},
         {u"Why wasn't setup.DMG trashed?"_s, {u"Setup.dmg"_s, u"Setup 2.dmg"_s}},
@@ -128,7 +128,6 @@ TEST(RelevantEntriesTest, ChoosesWhatAQuestionIsAbout) {
         {u"Where is my bank statement?"_s, {u"BankStatement-April.pdf"_s}},
         {u"Where did the bank statements from April go?"_s, {u"BankStatement-April.pdf"_s}},
         {u"What happened to my thesis?"_s, {u"thesis_final_v3.docx"_s}},
-        {u"THESIS_FINAL"_s, {u"thesis_final_v3.docx"_s}},
         {u"uberweisung?"_s, {u"Überweisung.pdf"_s}},
         {u"U\u0308berweisung.PDF"_s, {u"Überweisung.pdf"_s}},
         {u"Where is 請求書?"_s, {u"請求書 五月.pdf"_s}},
@@ -137,10 +136,8 @@ TEST(RelevantEntriesTest, ChoosesWhatAQuestionIsAbout) {
         {u"~/Downloads/boarding pass.pdf"_s, {u"boarding pass.pdf"_s}},
         {u"my holiday itineraries"_s, {u"Holiday Itinerary.docx"_s}},
         {u"where's meeting-notes-1039.docx"_s, {u"meeting-notes-1039.docx"_s}},
-        {u"what became of podcast 1041"_s, {u"podcast_1041.mp3"_s}},
         // By rule, place, folder, kind and deed.
         {u"What has the rule Study done?"_s, {u"thesis_final_v3.docx"_s}},
-        {u"What is in University?"_s, {u"thesis_final_v3.docx"_s}},
         {u"anything about trips"_s, {u"boarding pass.pdf"_s, u"Holiday Itinerary.docx"_s}},
         {u"Did anything fail?"_s, {u"budget.xlsx"_s}},
         {u"what went wrong today"_s, {u"budget.xlsx"_s}, u"2026-05-23 00:00"_s},
@@ -218,7 +215,7 @@ TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
         QString question, now, from, until;
         QString zone = u"Europe/Berlin"_s;
     };
-    const std::array<TimeRow, 27> rows{{
+    const std::array<TimeRow, 28> rows{{
         // A day of 23 hours, one of 25, and one that starts at one o'clock.
         {u"today"_s, u"2026-03-29 12:00"_s, u"2026-03-28T23:00:00Z"_s, u"2026-03-29T22:00:00Z"_s},
         {u"yesterday"_s, u"2026-10-26 12:00"_s, u"2026-10-24T22:00:00Z"_s,
@@ -241,8 +238,6 @@ TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
          u"2026-05-17T22:00:00Z"_s},
         {u"last weekend"_s, u"2026-05-23 15:00"_s, u"2026-05-15T22:00:00Z"_s,
          u"2026-05-17T22:00:00Z"_s},
-        {u"this month"_s, u"2026-05-23 15:00"_s, u"2026-04-30T22:00:00Z"_s,
-         u"2026-05-31T22:00:00Z"_s},
         {u"last month"_s, u"2026-03-31 15:00"_s, u"2026-01-31T23:00:00Z"_s,
          u"2026-02-28T23:00:00Z"_s},
         {u"last year"_s, u"2026-03-31 15:00"_s, u"2024-12-31T23:00:00Z"_s,
@@ -272,6 +267,10 @@ TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
          u"2026-05-22T22:00:00Z"_s},
         {u"yesterday at 15:30"_s, u"2026-05-23 15:00"_s, u"2026-05-22T12:30:00Z"_s,
          u"2026-05-22T14:30:00Z"_s},
+        {u"yesterday afternoon at 3:30"_s, u"2026-05-23 15:00"_s, u"2026-05-22T12:30:00Z"_s,
+         u"2026-05-22T14:30:00Z"_s},
+        {u"last night at 2:00"_s, u"2026-05-23 15:00"_s, u"2026-05-22T23:00:00Z"_s,
+         u"2026-05-23T01:00:00Z"_s},
     }};
     for (const TimeRow& row : rows) {
         SCOPED_TRACE(row.question.toStdString() + " on " + row.now.toStdString());

@@ -213,8 +213,15 @@ TEST(SuggestionMemory, keepsWhatWasDismissedThroughABrokenFile) {
         ASSERT_TRUE(memory.dismiss(u"/other/%1"_s.arg(i), {1}, {}));
     EXPECT_TRUE(memory.of(path)->dismissed.empty());
 
-    ASSERT_TRUE(storage.writeDurably(places.suggestions(), R"({"folders":[{"path":7}]})"));
-    EXPECT_FALSE(memory.of(path));
+    for (const char* broken :
+         {R"({"folders":[{"path":"/","shown":[{"topic":"host","subjects":[],"keys":[],
+             "rule":{"actions":[]}}]}]})",
+          R"({"folders":[{"path":"/","shown":[{"topic":"extension","subjects":[],"keys":[],
+             "rule":{}}]}]})",
+          R"({"folders":[{"path":7}]})"}) {
+        ASSERT_TRUE(storage.writeDurably(places.suggestions(), broken));
+        EXPECT_FALSE(memory.of(path)) << broken;
+    }
     const auto warned = memory.dismiss(path, {5}, Timestamp());
     ASSERT_TRUE(warned && *warned);
     EXPECT_TRUE((*warned)->contains(u"suggestions.json.unreadable-"_s));

@@ -89,6 +89,9 @@ TEST_F(WriteRule, SavesOnlyWhatTheUserHasAgreedTo) {
     EXPECT_EQ(server.requests("/api/chat").first().json()[u"messages"_s][1][u"content"_s],
               u"File PDFs"_s);
     EXPECT_EQ(server.requests("/api/chat").size(), std::ssize(steps) - 2) << "one a draft";
+    bench.write("in/c.pdf", "c");
+    EXPECT_THAT(bench.run({"write-rule", "@in", "x"}).out, HasSubstr("Would catch none of"))
+        << "the rule of before takes it";
 }
 
 TEST_F(WriteRule, ShowsWhatItWouldCatchAndAsksNobodyAboutFiles) {
