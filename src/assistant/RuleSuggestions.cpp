@@ -99,9 +99,8 @@ bool isGoodDestination(const Weighed& item, const FolderView& view) {
 }
 
 bool suits(const Weighed& item, const FolderView& view) {
-    const auto inSubfolders = std::size_t(std::ranges::count_if(item.files, isInSubfolder));
     return item.files.size() >= fewestFiles && std::ranges::none_of(item.files, isFolder) &&
-           inSubfolders * 2 <= item.files.size() &&
+           std::ranges::none_of(item.files, isInSubfolder) && // somebody has sorted those
            validationWarnings(item.suggestion.rule).isEmpty() && isGoodDestination(item, view) &&
            !view.isSwitchedOff(item.suggestion.rule, item.files);
 }

@@ -21,7 +21,7 @@ inline constexpr std::size_t fewestFiles = 3;
 /// number of files that it would take, found by matching it. No two take the same file. Left out
 /// is what was dismissed and what would mostly take the same files, what the folder has switched
 /// off, what would take folders too, and, in a folder that is tidied with its subfolders, what
-/// would mostly take files out of these. `candidates` are 64 at most. Looks at the disk: on a
+/// would take even one file out of these. `candidates` are 64 at most. Looks at the disk: on a
 /// background thread.
 [[nodiscard]] std::vector<RuleSuggestion> chosenSuggestions(const FolderView& view,
                                                             std::vector<RuleSuggestion> candidates,

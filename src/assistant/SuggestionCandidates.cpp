@@ -3,7 +3,6 @@
 #include "assistant/RuleSuggestions.h"
 #include "engine/FileFacts.h"
 #include "engine/KindClassifier.h"
-#include "model/CleanupRecipe.h"
 #include "model/FileKind.h"
 #include "model/PathText.h"
 #include "platform/FileNames.h"
@@ -13,7 +12,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <map>
 
 namespace quillon {
 
@@ -31,19 +29,19 @@ constexpr qsizetype longestHost = 100;
 constexpr std::size_t longestExtension = 10;
 
 // What the screenshot tools of the usual desktops and phones begin a name with, and in a few
-// languages.
+// languages. Whole words: "Screenshotting" is none.
 constexpr QStringView screenshotNames =
     u"^(Screenshot|Screen Shot|CleanShot|SCR-|Bildschirmfoto|Capture d.écran|"
     "Captura de (pantalla|tela|ecrã)|Schermata|Schermafdruk|Skärmbild|Skjermbilde|Skærmbillede|"
-    "Zrzut ekranu|Снимок экрана|スクリーンショット|屏幕截图)";
+    "Zrzut ekranu|Снимок экрана|スクリーンショット|屏幕截图)(?!\\p{L})";
 
 // Whole words: "Berechnung" is no "Rechnung".
 constexpr QStringView invoiceNames =
-    u"(?<!\\p{L})(invoice|receipt|rechnung|quittung|facture|factura|fattura|recibo)s?(?!\\p{L})|"
-    "請求書|領収書";
+    u"(?<!\\p{L})((invoice|receipt|facture|factura|fattura|recibo)s?|(rechnung|quittung)(en)?)"
+    "(?!\\p{L})|請求書|領収書|发票";
 
-constexpr QStringView installerExtensions =
-    u"^(dmg|pkg|iso|deb|rpm|appimage|exe|msi|flatpakref|snap)$";
+// Not those that are often the program itself, such as an AppImage.
+constexpr QStringView installerExtensions = u"^(dmg|pkg|iso|deb|rpm|msi|flatpakref|snap)$";
 constexpr int installerDays = 30;
 
 constexpr QStringView archiveExtensions = u"^(zip|rar|7z|tar|gz|tgz|bz2|tbz2?|xz|txz|zst|tzst)$";
@@ -55,15 +53,12 @@ Condition pattern(ConditionAttribute attribute, QStringView value) {
     return {.attribute = attribute, .op = MatchOperator::matchesRegex, .value = value.toString()};
 }
 
-Condition isNotKind(FileKind kind) {
-    return {
-        .attribute = ConditionAttribute::kind, .op = MatchOperator::isNot, .value = rawValue(kind)};
+Condition ofKind(MatchOperator op, FileKind kind) {
+    return {.attribute = ConditionAttribute::kind, .op = op, .value = rawValue(kind)};
 }
 
-Condition notOpenedFor(int days) {
-    return {.attribute = ConditionAttribute::lastOpened,
-            .op = MatchOperator::olderThanDays,
-            .value = QString::number(days)};
+Condition olderThan(int days, ConditionAttribute date) {
+    return {.attribute = date, .op = MatchOperator::olderThanDays, .value = QString::number(days)};
 }
 
 Rule moveRule(const QString& name, std::vector<Condition> conditions, const WatchedFolder& folder,
@@ -80,57 +75,38 @@ RuleSuggestion candidate(SuggestionTopic topic, Rule rule, QStringList subjects 
         .topic = topic, .subjects = std::move(subjects), .rule = std::move(rule), .keys = {key}};
 }
 
-/// The rule that a clean-up makes permanent. It comes before ours of the same topic, so that it is
-/// the one that is suggested where both catch the same.
-void addRecipe(std::vector<RuleSuggestion>& candidates, SuggestionTopic topic,
-               const QString& recipeID, const WatchedFolder& folder) {
-    for (const CleanupRecipe& recipe : recipesFor(folder))
-        if (recipe.id == recipeID)
-            candidates.push_back(
-                candidate(topic, recipe.makeRule(folder, recipe.days.value_or(0))));
-}
-
-/// Whoever wants no screenshots filed wants it by neither of two rules.
-void shareKeys(std::vector<RuleSuggestion>& candidates) {
-    std::map<SuggestionTopic, std::vector<std::uint64_t>> keys;
-    for (const RuleSuggestion& each : candidates)
-        keys[each.topic].push_back(each.keys.front());
-    for (RuleSuggestion& each : candidates)
-        each.keys = keys[each.topic];
-}
-
 void addKnown(std::vector<RuleSuggestion>& candidates, const WatchedFolder& folder) {
     using enum SuggestionTopic;
-    const Condition isFile = isNotKind(FileKind::folder);
-
-    addRecipe(candidates, screenshots, u"screenshots"_s, folder);
-    candidates.push_back(candidate(
-        screenshots, moveRule(u"File screenshots"_s,
-                              {pattern(ConditionAttribute::name, screenshotNames), isFile}, folder,
-                              u"Screenshots"_s)));
+    using Attribute = ConditionAttribute;
+    candidates.push_back(
+        candidate(screenshots, moveRule(u"File screenshots"_s,
+                                        {pattern(Attribute::name, screenshotNames),
+                                         ofKind(MatchOperator::is, FileKind::image)},
+                                        folder, u"Screenshots"_s)));
     candidates.push_back(
         candidate(invoices, moveRule(u"File invoices and receipts"_s,
-                                     {pattern(ConditionAttribute::name, invoiceNames), isFile},
+                                     {pattern(Attribute::name, invoiceNames),
+                                      ofKind(MatchOperator::isNot, FileKind::folder)},
                                      folder, u"Invoices"_s)));
-    addRecipe(candidates, installers, u"old-installers"_s, folder);
+    // Where the system doesn't note when a file is opened, only the other date spares new ones.
     candidates.push_back(candidate(
         installers, Rule{.name = u"Trash old installers"_s,
-                         .conditions = {pattern(ConditionAttribute::extension, installerExtensions),
-                                        notOpenedFor(installerDays)},
+                         .conditions = {pattern(Attribute::extension, installerExtensions),
+                                        olderThan(installerDays, Attribute::lastOpened),
+                                        olderThan(installerDays, Attribute::dateAdded)},
                          .actions = {{.type = ActionType::trash}}}));
+    candidates.push_back(candidate(
+        archives, moveRule(u"File archives"_s, {pattern(Attribute::extension, archiveExtensions)},
+                           folder, u"Archives"_s)));
     candidates.push_back(
-        candidate(archives, moveRule(u"File archives"_s,
-                                     {pattern(ConditionAttribute::extension, archiveExtensions)},
-                                     folder, u"Archives"_s)));
-    candidates.push_back(candidate(largeFiles, moveRule(u"Set aside large old files"_s,
-                                                        {{.attribute = ConditionAttribute::size,
-                                                          .op = MatchOperator::greaterThan,
-                                                          .value = QString::number(largeMegabytes),
-                                                          .unit = SizeUnit::mb},
-                                                         notOpenedFor(largeDays),
-                                                         isNotKind(FileKind::archive)},
-                                                        folder, u"Large Old Files"_s)));
-    shareKeys(candidates);
+        candidate(largeFiles, moveRule(u"Set aside large old files"_s,
+                                       {{.attribute = Attribute::size,
+                                         .op = MatchOperator::greaterThan,
+                                         .value = QString::number(largeMegabytes),
+                                         .unit = SizeUnit::mb},
+                                        olderThan(largeDays, Attribute::lastOpened),
+                                        ofKind(MatchOperator::isNot, FileKind::archive)},
+                                       folder, u"Large Old Files"_s)));
 }
 
 /// How often each text was met.

@@ -29,7 +29,8 @@ TEST(RuleSuggestions, areWhatTheFolderIsFullOf) {
         {"screenshots of several desktops, and the folder that they would go to",
          [](SuggestionBench& bench) {
              bench.makeAll({"Screenshot from 2026-01-02 10-11-12.png", "Screenshots/",
-                            "Bildschirmfoto vom 2026-01-02 10-11-12.png", "Screen Shot 3.png"});
+                            "Bildschirmfoto vom 2026-01-02 10-11-12.png", "Screen Shot 3.png",
+                            "Screenshotting.png", "Screenshot tips.md"});
          },
          {u"File screenshots → Screenshots: 3"_s}},
         {"two are too few",
@@ -39,16 +40,30 @@ TEST(RuleSuggestions, areWhatTheFolderIsFullOf) {
          {}},
         {"only old installers",
          [](SuggestionBench& bench) {
-             bench.makeAll({"a.dmg", "b_1.2_amd64.deb", "C.AppImage", "setup.exe"}, 40);
-             bench.makeAll({"new.dmg", "new.msi"}, 2);
+             bench.clock.advance(std::chrono::days(40));
+             bench.makeAll({"a.dmg", "b_1.2_amd64.deb", "c.msi", "D.AppImage", "program.exe"});
+             bench.makeAll({"opened.dmg", "opened.msi"}, -38);
          },
-         {u"Trash old installers: 4"_s}},
+         {u"Trash old installers: 3"_s}},
+        {"none that came lately, whatever is noted of when they were opened",
+         [](SuggestionBench& bench) {
+             bench.makeAll({"a.dmg", "b.dmg", "c.dmg"}, 40);
+         },
+         {}},
+        {"none in subfolders",
+         [](SuggestionBench& bench) {
+             bench.request.folder.isRecursive = true;
+             bench.clock.advance(std::chrono::days(40));
+             bench.makeAll({"a.dmg", "b.dmg", "c.dmg", "kept/d.dmg"});
+         },
+         {}},
         {"invoices and receipts by whole words",
          [](SuggestionBench& bench) {
              bench.makeAll({"invoice_7.pdf", "Rechnung 8.docx", "Receipt.jpg", "請求書.txt",
-                            "Berechnung.xls", "Invoices/"});
+                            "Rechnung1.pdf", "alle Rechnungen1.pdf", "Quittungen.odt",
+                            "2026发票.png", "Berechnungen.xls", "Invoices/"});
          },
-         {u"File invoices and receipts → Invoices: 4"_s}},
+         {u"File invoices and receipts → Invoices: 8"_s}},
         {"a file counts once, for what it is known as",
          [](SuggestionBench& bench) {
              bench.makeAll(
@@ -124,18 +139,15 @@ TEST(RuleSuggestions, areWhatTheFolderIsFullOf) {
              bench.make("b4.pdf");
          },
          {u"File MP3 files → MP3: 3"_s}},
-        {"with subfolders, what lies there too, but not what is in place",
+        {"with subfolders, nothing that would take a file out of one where it isn't in place",
          [](SuggestionBench& bench) {
              bench.request.folder.isRecursive = true;
-             bench.makeAll({"a.pdf", "b.pdf", "c.pdf", "sub/d.pdf", "PDF/e.pdf"});
+             bench.makeMany("a", ".pdf", 3);
+             bench.make("PDF/e.pdf");
+             bench.makeMany("b", ".jpg", 9);
+             bench.make("2019/Rome/c.jpg");
          },
-         {u"File PDF files → PDF: 4"_s}},
-        {"but nothing that would empty subfolders",
-         [](SuggestionBench& bench) {
-             bench.request.folder.isRecursive = true;
-             bench.makeAll({"a.pdf", "b.pdf", "c.pdf", "x/1.pdf", "x/2.pdf", "y/3.pdf", "y/4.pdf"});
-         },
-         {}},
+         {u"File PDF files → PDF: 3"_s}},
         {"nor what would move folders, or can't have its own",
          [](SuggestionBench& bench) {
              bench.makeAll({"a.pdf", "b.pdf", "c.pdf", "d.pdf/"});
@@ -159,7 +171,7 @@ TEST(RuleSuggestions, areWhatTheFolderIsFullOf) {
                              !bench.request.folder.onlyNewFiles &&
                              !bench.request.folder.isRecursive;
         FakeJudge judge;
-        const RuleEngine engine(bench.machine.platform, judge);
+        const RuleEngine engine(bench.platform, judge);
         const auto ready = engine.readyFiles(bench.request.folder);
         ASSERT_TRUE(ready);
         for (const RuleSuggestion& each : isPlain ? found : std::vector<RuleSuggestion>()) {

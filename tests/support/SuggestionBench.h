@@ -3,6 +3,7 @@
 #include "assistant/DobbinJudge.h"
 #include "assistant/RuleSuggestions.h"
 #include "assistant/SuggestionCandidates.h"
+#include "support/FakeClock.h"
 #include "support/LinuxMachine.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +16,13 @@ namespace quillon::testing {
 /// A real folder to make suggestions for.
 struct SuggestionBench {
     LinuxMachine machine;
+    FakeClock clock{machine.platform.clock.now()};
+    Platform platform = [this] {
+        const Platform& real = machine.platform;
+        return Platform{real.fileSystem, real.trash,        real.tags,      real.provenance,
+                        real.cloudFiles, real.contentTypes, real.processes, real.archives,
+                        clock,           real.folders};
+    }();
     DobbinJudge judge{machine.platform.fileSystem, machine.platform.clock};
     SuggestionRequest request;
 
@@ -42,7 +50,7 @@ struct SuggestionBench {
     }
 
     [[nodiscard]] FolderView view() const {
-        auto view = FolderView::read(machine.platform, judge, {}, request);
+        auto view = FolderView::read(platform, judge, {}, request);
         EXPECT_TRUE(view);
         return std::move(*view);
     }
