@@ -4,10 +4,14 @@
 
 namespace quillon {
 
+QString keyText(std::uint64_t key) {
+    return QString::number(key, 16).rightJustified(16, u'0');
+}
+
 QJsonArray keysToJson(const std::vector<std::uint64_t>& keys) {
     QJsonArray list;
     for (const std::uint64_t key : keys)
-        list.append(QString::number(key, 16).rightJustified(16, u'0'));
+        list.append(keyText(key));
     return list;
 }
 

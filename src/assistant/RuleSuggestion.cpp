@@ -13,6 +13,11 @@ std::uint64_t suggestionKey(Rule rule) {
     return stableHash(rule);
 }
 
+QString suggestionID(const RuleSuggestion& suggestion) {
+    constexpr int digits = 6;
+    return keyText(suggestionKey(suggestion.rule)).first(digits);
+}
+
 QJsonObject toJson(const RuleSuggestion& suggestion) {
     return {
         {"topic"_L1, rawValue(suggestion.topic)},

@@ -59,6 +59,10 @@ struct RuleSuggestion {
 /// whatever their ids.
 [[nodiscard]] std::uint64_t suggestionKey(Rule rule);
 
+/// What people type for it, 6 hexadecimal digits of its rule's key: unlike its number in a list, it
+/// never comes to mean another rule.
+[[nodiscard]] QString suggestionID(const RuleSuggestion& suggestion);
+
 /// What of a suggestion holds for longer than a moment: all but the count, the reason and the
 /// examples.
 [[nodiscard]] QJsonObject toJson(const RuleSuggestion& suggestion);

@@ -34,6 +34,10 @@ QJsonObject folderToJson(const RememberedSuggestions& folder) {
         json.insert("shown"_L1, jsonList(folder.shown));
     if (folder.shownAt)
         json.insert("shownAt"_L1, jsonDate(*folder.shownAt));
+    if (!folder.read.empty())
+        json.insert("read"_L1, jsonList(folder.read));
+    if (folder.readAt)
+        json.insert("readAt"_L1, jsonDate(*folder.readAt));
     return json;
 }
 
@@ -44,6 +48,8 @@ Expected<RememberedSuggestions> folderFromJson(const JsonReader& json) {
     fields.optionalList("dismissed"_L1, folder.dismissed, keyFromJson);
     fields.optionalList("shown"_L1, folder.shown, suggestionFromJson);
     fields.optional("shownAt"_L1, folder.shownAt);
+    fields.optionalList("read"_L1, folder.read, suggestionFromJson);
+    fields.optional("readAt"_L1, folder.readAt);
     return fields.result(std::move(folder));
 }
 
@@ -86,11 +92,13 @@ Expected<RememberedSuggestions> SuggestionMemory::of(const QString& path) const 
     return found == folders->end() ? RememberedSuggestions{.path = place} : *found;
 }
 
-SuggestionMemory::Kept
-SuggestionMemory::noteShown(const QString& path, std::vector<RuleSuggestion> shown, Timestamp now) {
+SuggestionMemory::Kept SuggestionMemory::noteShown(const QString& path,
+                                                   std::vector<RuleSuggestion> shown, Timestamp now,
+                                                   SuggestionReader to) {
     return change(path, now, [&](RememberedSuggestions& folder) {
-        folder.shown = std::move(shown);
-        folder.shownAt = now;
+        const bool isRead = to == SuggestionReader::program;
+        (isRead ? folder.read : folder.shown) = std::move(shown);
+        (isRead ? folder.readAt : folder.shownAt) = now;
     });
 }
 

@@ -19,18 +19,23 @@ namespace quillon {
 struct RememberedSuggestions {
     QString path;                              ///< absolute, links resolved
     std::vector<std::uint64_t> dismissed = {}; ///< by suggestionKey(), newest first
-    std::vector<RuleSuggestion> shown = {};    ///< as they were shown last
+    std::vector<RuleSuggestion> shown = {};    ///< as a person saw them last
     std::optional<Timestamp> shownAt = {};
+    std::vector<RuleSuggestion> read = {}; ///< as a program did
+    std::optional<Timestamp> readAt = {};
 
     [[nodiscard]] QSet<std::uint64_t> dismissedKeys() const {
         return {dismissed.begin(), dismissed.end()};
     }
 };
 
+/// Whose eyes a list is for.
+enum class SuggestionReader : std::uint8_t { person, program };
+
 /// Remembers on disk which suggestions were dismissed, and which were shown last, so that a number
-/// means the suggestion that somebody saw. 50 folders and 200 dismissed ones of each at most; the
-/// oldest fall out. Any thread, and several processes at once: each change is made under a lock of
-/// its own, which is waited for up to a second.
+/// means the suggestion that somebody saw, whatever a program has asked for since. 50 folders and
+/// 200 dismissed ones of each at most; the oldest fall out. Any thread, and several processes at
+/// once: each change is made under a lock of its own, which is waited for up to a second.
 class SuggestionMemory {
 public:
     /// Borrows the first two.
@@ -45,7 +50,7 @@ public:
     /// is then a sentence about it.
     using Kept = Expected<std::optional<QString>>;
     [[nodiscard]] Kept noteShown(const QString& path, std::vector<RuleSuggestion> shown,
-                                 Timestamp now);
+                                 Timestamp now, SuggestionReader to = SuggestionReader::person);
     [[nodiscard]] Kept dismiss(const QString& path, const std::vector<std::uint64_t>& keys,
                                Timestamp now);
 

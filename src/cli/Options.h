@@ -169,8 +169,9 @@ struct AskOptions {
 struct SuggestOptions {
     std::string folder;
     bool json = false;
-    std::optional<std::size_t> add;     ///< a number of the list that was shown, from 1
-    std::optional<std::size_t> dismiss; ///< likewise
+    std::optional<std::string> add;     ///< an id, or a number of the list that was shown, from 1
+    std::optional<std::string> dismiss; ///< likewise
+    bool isAgreed = false;              ///< to add it though undo won't reach all that it takes
 };
 
 struct WriteRuleOptions {

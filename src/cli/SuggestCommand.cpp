@@ -12,6 +12,7 @@
 #include "cli/Verbs.h"
 #include "platform/Clock.h"
 #include "service/LoopTask.h"
+#include "store/PersistedState.h"
 #include "store/Sentences.h"
 #include "store/SettingsTable.h"
 
@@ -29,13 +30,19 @@ constexpr std::chrono::seconds namingPatience{20};
 // What was shown is not what anybody remembers a day later.
 constexpr std::chrono::hours shownFor{24};
 
-/// What is remembered of the folder. A file that can't be read is said, and costs nothing else.
-RememberedSuggestions remembered(const QString& path, const Console& console, Services& services) {
-    auto found = services.suggestionMemory().of(path);
-    if (found)
-        return std::move(*found);
-    console.say(u"What was suggested before can't be read: "_s + found.error().message);
-    return {.path = path};
+/// False when --add and --dismiss won't know it; says so.
+bool isRemembered(const QString& path, const std::vector<RuleSuggestion>& suggestions,
+                  bool isForProgram, const Console& console, Services& services) {
+    const auto kept = services.suggestionMemory().noteShown(
+        path, suggestions, services.platform().clock.now(),
+        isForProgram ? SuggestionReader::program : SuggestionReader::person);
+    if (!kept)
+        console.say(u"What is suggested can't be remembered, so none of it can be added or "
+                    "dismissed: "_s +
+                    kept.error().message);
+    else if (*kept)
+        console.say(**kept);
+    return kept.has_value();
 }
 
 std::expected<FolderView, ExitCode> viewOf(const FolderPlace& place, const std::string& typed,
@@ -73,27 +80,23 @@ ExitCode show(const SuggestOptions& options, const Console& console, Services& s
     if (!place)
         return place.error();
     const QString& path = place->folder.path;
-    const RememberedSuggestions before = remembered(path, console, services);
+    const auto before = services.suggestionMemory().of(path);
     const auto view = viewOf(*place, options.folder, console, services);
     if (!view)
         return view.error();
 
-    const QSet<std::uint64_t> dismissed = before.dismissedKeys();
+    const QSet<std::uint64_t> dismissed = before ? before->dismissedKeys() : QSet<std::uint64_t>();
     const std::vector<RuleSuggestion> suggestions =
         shownOf(named(chosenSuggestions(*view, suggestionCandidates(*view), dismissed), *view,
                       dismissed, console, services));
-    if (!suggestions.empty() || !before.shown.empty()) {
-        const auto kept = services.suggestionMemory().noteShown(path, suggestions,
-                                                                services.platform().clock.now());
-        if (!kept)
-            console.say(u"What is suggested can't be remembered, so that --add and --dismiss "
-                        "won't know it: "_s +
-                        kept.error().message);
-        else if (*kept)
-            console.say(**kept);
-    }
+    // A file that can't be understood is put aside by writing a new one.
+    const bool isNews =
+        !suggestions.empty() || !before || !(options.json ? before->read : before->shown).empty();
+    const bool isKnown =
+        !isNews || isRemembered(path, suggestions, options.json, console, services);
     const SuggestionList list{.folder = place->folder,
                               .isWatched = place->isWatched,
+                              .isRemembered = isKnown,
                               .typed = options.folder,
                               .suggestions = suggestions};
     if (options.json)
@@ -103,28 +106,45 @@ ExitCode show(const SuggestOptions& options, const Console& console, Services& s
     return ExitCode::done;
 }
 
-/// The one that had this number when the list was last shown.
-Chosen<RuleSuggestion> shownBefore(std::size_t number, const RememberedSuggestions& memory,
+using ShownList = std::vector<RuleSuggestion>;
+
+/// None of what has been shown too long ago.
+ShownList fresh(const ShownList& list, std::optional<Timestamp> at, Timestamp now) {
+    return at && std::chrono::abs(now - *at) < shownFor ? list : ShownList();
+}
+
+/// The one that has this id, or had this number when a person last saw the list.
+Chosen<RuleSuggestion> shownBefore(const std::string& word,
+                                   const Expected<RememberedSuggestions>& memory,
                                    const std::string& typed, Services& services) {
-    const Timestamp now = services.platform().clock.now();
-    const bool isFresh = memory.shownAt && std::chrono::abs(now - *memory.shownAt) < shownFor;
     const QString look = u"quillon suggest "_s + shellWord(pathText(typed));
-    if (memory.shown.empty() || !isFresh)
-        return refusal(ExitCode::usage,
-                       u"The number is that of a list that was shown; look at it first: "_s + look);
-    if (number > memory.shown.size())
-        return refusal(
-            ExitCode::usage,
-            u"There is no number %1 among the %2 that were shown; see: %3"_s.arg(
-                QString::number(number), counted(memory.shown.size(), u"suggestion"_s), look));
-    return memory.shown[number - 1];
+    if (!memory)
+        return refusal(ExitCode::someFailed,
+                       u"What was suggested before can't be read (%1); look at it again: %2"_s.arg(
+                           memory.error().message, look));
+    const Timestamp now = services.platform().clock.now();
+    const ShownList shown = fresh(memory->shown, memory->shownAt, now);
+    const ShownList read = fresh(memory->read, memory->readAt, now);
+    const QString wanted = QString::fromStdString(word);
+    for (const ShownList* list : {&shown, &read})
+        for (const RuleSuggestion& suggestion : *list)
+            if (suggestionID(suggestion).compare(wanted, Qt::CaseInsensitive) == 0)
+                return suggestion;
+    const std::size_t number = wanted.toUInt();
+    if (number > 0 && number <= shown.size())
+        return shown[number - 1];
+    return refusal(ExitCode::usage,
+                   shown.empty() && read.empty()
+                       ? u"Look at what is suggested first: "_s + look
+                       : u"There is no suggestion “%1” among those that were shown; see: %2"_s.arg(
+                             wanted, look));
 }
 
 ExitCode add(const SuggestOptions& options, const Console& console, Services& services) {
     const auto open = openFolder(options.folder, console, services);
     if (!open)
         return open.error();
-    const RememberedSuggestions memory = remembered(open->folder.path, console, services);
+    const auto memory = services.suggestionMemory().of(open->folder.path);
     const auto suggestion = shownBefore(*options.add, memory, options.folder, services);
     if (!suggestion)
         return sayRefusal(suggestion.error(), console);
@@ -136,10 +156,18 @@ ExitCode add(const SuggestOptions& options, const Console& console, Services& se
     const auto view = viewOf(*place, options.folder, console, services);
     if (!view)
         return view.error();
-    if (chosenSuggestions(*view, {*suggestion}, memory.dismissedKeys()).empty()) {
-        console.say(u"“%1” has nothing to do in %2 any more, so it is not added; see: quillon "
-                    "suggest %3"_s.arg(suggestion->rule.name, open->folder.name(),
-                                       shellWord(pathText(options.folder))));
+    const ShownList now = chosenSuggestions(*view, {*suggestion}, memory->dismissedKeys());
+    if (now.empty()) {
+        console.say(
+            u"“%1” doesn't suit %2 any more, so it is not added; see: quillon suggest %3"_s.arg(
+                suggestion->rule.name, open->folder.name(), shellWord(pathText(options.folder))));
+        return ExitCode::someFailed;
+    }
+    if (isBeyondUndo(now.front()) && !options.isAgreed) {
+        console.say(u"“%1” is not added: it would take %2 files now, and undo reaches back over "
+                    "%3 only; --anyway adds it all the same"_s.arg(
+                        suggestion->rule.name, QString::number(now.front().count),
+                        QString::number(logCap)));
         return ExitCode::someFailed;
     }
     return addRulesAndRun(*open, {suggestion->rule}, RuleSource::suggestion, options.json, console);
@@ -151,7 +179,7 @@ ExitCode dismiss(const SuggestOptions& options, const Console& console, Services
         return place.error();
     const WatchedFolder& folder = place->folder;
     const auto suggestion = shownBefore(
-        *options.dismiss, remembered(folder.path, console, services), options.folder, services);
+        *options.dismiss, services.suggestionMemory().of(folder.path), options.folder, services);
     if (!suggestion)
         return sayRefusal(suggestion.error(), console);
     const auto kept = services.suggestionMemory().dismiss(folder.path, suggestion->keys,

@@ -12,9 +12,13 @@ namespace quillon {
 struct SuggestionList {
     const WatchedFolder& folder;
     bool isWatched = false;
+    bool isRemembered = true; ///< so that one of it can be added
     const std::string& typed; ///< the folder as it was given
     const std::vector<RuleSuggestion>& suggestions;
 };
+
+/// Whether the log, and undo with it, would lose some of what the rule did.
+[[nodiscard]] bool isBeyondUndo(const RuleSuggestion& suggestion);
 
 void printSuggestions(const SuggestionList& list, const Console& console);
 void printSuggestionsAsJson(const SuggestionList& list, const Console& console);

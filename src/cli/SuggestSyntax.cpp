@@ -7,11 +7,17 @@ Command defineSuggest(CLI::App& parser) {
     const auto options = std::make_shared<SuggestOptions>();
     addFolderArgument(parser, options->folder);
     CLI::Option* const add =
-        addNumber(parser, "--add", options->add, "a suggestion",
-                  "Add a suggestion, by its number when it was last shown, and tidy the folder");
-    addNumber(parser, "--dismiss", options->dismiss, "a suggestion",
-              "Never suggest it for this folder again")
+        parser
+            .add_option("--add", options->add,
+                        "Add a suggestion that was shown, by its id or number, and tidy the folder")
+            ->type_name("ID");
+    parser.add_option("--dismiss", options->dismiss, "Never suggest it for this folder again")
+        ->type_name("ID")
         ->excludes(add);
+    parser
+        .add_flag("--anyway", options->isAgreed,
+                  "Add it though it takes more files than undo reaches")
+        ->needs(add);
     addJson(parser, options->json);
     return bound<suggestCommand>(options);
 }

@@ -12,6 +12,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 TEST(SuggestVerb, addsAndDismissesWhatWasShown) {
     int argc = 0;
@@ -26,23 +27,21 @@ TEST(SuggestVerb, addsAndDismissesWhatWasShown) {
         const char* said; ///< on either stream
     } steps[] = {
         {{"settings", "set", "ai.localHost", server.host().toStdString()}, ExitCode::done, ""},
-        {{"suggest", "@in", "--dismiss", "1"}, ExitCode::usage, "look at it first"},
+        {{"suggest", "@in", "--dismiss", "1"}, ExitCode::usage, "Look at what is suggested first"},
         {{"suggest", "@nowhere"}, ExitCode::unreadable, "nowhere can't be read: No such file"},
-        {{"suggest", "@in"}, ExitCode::done, "1  File JPG files: 3 JPG files, all from today."},
+        {{"suggest", "@in"}, ExitCode::done, "  File JPG files: 3 JPG files, all from today."},
         {{"suggest", "@in"}, ExitCode::done, "watch the folder first: quillon folder add"},
         {{"suggest", "@in", "--add", "1"}, ExitCode::usage, "is not watched"},
         {{"folder", "add", "@in"}, ExitCode::done, ""},
-        {{"suggest", "@in", "--add", "3"}, ExitCode::usage, "no number 3 among the 2 suggestions"},
-        {{"suggest", "@in", "--add", "0"}, ExitCode::usage, "“0” is not the number"},
+        {{"suggest", "@in", "--add", "3"}, ExitCode::usage, "no suggestion “3” among those"},
+        {{"suggest", "@in", "--add", "0"}, ExitCode::usage, "no suggestion “0”"},
         {{"suggest", "@in", "--add", "1", "--dismiss", "2"}, ExitCode::usage, "excludes"},
         {{"suggest", "@in", "--add", "1"}, ExitCode::done, "in: tidied 3 files"},
         // The numbers are still those of the list that was shown.
-        {{"suggest", "@in", "--add", "1"},
-         ExitCode::someFailed,
-         "has nothing to do in in any more"},
+        {{"suggest", "@in", "--add", "1"}, ExitCode::someFailed, "doesn't suit in any more"},
         {{"suggest", "@in", "--dismiss", "2"}, ExitCode::done, "“File TXT files” is not suggested"},
         {{"suggest", "@in"}, ExitCode::done, "Nothing to suggest for in: no three files"},
-        {{"suggest", "@in", "--dismiss", "2"}, ExitCode::usage, "look at it first"},
+        {{"suggest", "@in", "--dismiss", "2"}, ExitCode::usage, "Look at what"},
         {{"settings", "set", "ai.suggestRules", "off"}, ExitCode::done, ""},
         {{"suggest", "@in"}, ExitCode::someFailed, "Suggestions are switched off"},
         {{"settings", "set", "ai.suggestRules", "on"}, ExitCode::done, ""},
@@ -70,9 +69,60 @@ TEST(SuggestVerb, addsAndDismissesWhatWasShown) {
     EXPECT_EQ(shown["suggestions"_L1][0]["count"_L1], 6);
     EXPECT_EQ(shown["suggestions"_L1][0]["reason"_L1], u"6 MP3 and WAV files, all from today."_s);
     server.play("/api/chat", ModelServer::Answer{.status = 500});
-    EXPECT_THAT(bench.run({"suggest", "@in", "--add", "1"}).out,
+    const std::string id = shown["suggestions"_L1][0]["id"_L1].toString().toStdString();
+    EXPECT_EQ(bench.run({"suggest", "@in", "--add", "1"}).code, ExitCode::usage);
+    EXPECT_THAT(bench.run({"suggest", "@in", "--add", id}).out,
                 HasSubstr("Added “File Songs” to in"));
     EXPECT_TRUE(bench.files().contains("in/Songs/f.wav"));
+}
+
+TEST(SuggestVerb, keepsThePersonsNumbersWhenAProgramLooks) {
+    const CommandBench bench;
+    bench.run({"folder", "add", "@in"});
+    for (const char* name : {"a.jpg", "b.jpg", "c.jpg"})
+        bench.write(std::string("in/") + name, "contents");
+    bench.run({"suggest", "@in"});
+    for (const char* name : {"a.mp3", "b.mp3", "c.mp3", "d.mp3"})
+        bench.write(std::string("in/") + name, "contents");
+    const auto read = bench.json({"suggest", "@in"});
+    EXPECT_EQ(read["suggestions"_L1][0]["name"_L1], u"File MP3 files"_s);
+    EXPECT_THAT(bench.run({"suggest", "@in", "--add", "1"}).out, HasSubstr("Added “File JPG"));
+    const std::string id = read["suggestions"_L1][0]["id"_L1].toString().toStdString();
+    EXPECT_THAT(bench.run({"suggest", "@in"}).out, HasSubstr("1  " + id + "  File MP3 files"));
+    EXPECT_THAT(bench.run({"suggest", "@in", "--dismiss", id}).out, HasSubstr("“File MP3 files”"));
+}
+
+TEST(SuggestVerb, addsWhatUndoCannotReachOnlyWhenAgreed) {
+    const CommandBench bench;
+    bench.run({"folder", "add", "@in"});
+    for (int i = 0; i <= 500; ++i)
+        bench.write("in/" + std::to_string(i) + ".jpg", "contents");
+    EXPECT_THAT(bench.run({"suggest", "@in"}).out, HasSubstr("More than the 500 that undo"));
+    const auto refused = bench.run({"suggest", "@in", "--add", "1"});
+    EXPECT_EQ(refused.code, ExitCode::someFailed);
+    EXPECT_THAT(refused.err, HasSubstr("would take 501 files now"));
+    EXPECT_TRUE(bench.files().contains("in/0.jpg"));
+    EXPECT_THAT(bench.run({"suggest", "@in", "--add", "1", "--anyway"}).out, HasSubstr("Added"));
+}
+
+TEST(SuggestVerb, saysOnceThatItCannotRemember) {
+    const CommandBench bench;
+    bench.run({"folder", "add", "@in"});
+    for (const char* name : {"a.jpg", "b.jpg", "c.jpg"})
+        bench.write(std::string("in/") + name, "contents");
+    bench.write("data/Quillon/suggestions.json", "{");
+    const auto refused = bench.run({"suggest", "@in", "--add", "1"});
+    EXPECT_EQ(std::ranges::count(refused.err, '\n'), 1) << refused.err;
+    const auto kept = bench.run({"suggest", "@in"});
+    EXPECT_EQ(std::ranges::count(kept.err, '\n'), 1) << kept.err;
+    EXPECT_THAT(kept.err, HasSubstr("suggestions.json.unreadable-"));
+    EXPECT_THAT(kept.out, HasSubstr("--add ID"));
+
+    std::filesystem::remove(bench.at("data/Quillon/suggestions.lock"));
+    std::filesystem::create_directories(bench.at("data/Quillon/suggestions.lock"));
+    const auto forgotten = bench.run({"suggest", "@in"});
+    EXPECT_THAT(forgotten.err, HasSubstr("none of it can be added"));
+    EXPECT_THAT(forgotten.out, Not(HasSubstr("--add")));
 }
 
 } // namespace
