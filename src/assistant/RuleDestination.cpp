@@ -18,6 +18,14 @@ namespace {
 
 constexpr std::size_t longestPath = 4095; // bytes that a path may have for the system
 
+/// Models write names in quotes where the prompt shows them so.
+QString withoutQuotes(const QString& text) {
+    for (const QStringView quotes : {u"“”", u"\"\"", u"''"})
+        if (text.size() >= 2 && text.front() == quotes.front() && text.back() == quotes.back())
+            return text.sliced(1).chopped(1).trimmed();
+    return text;
+}
+
 QStringView withoutSlashes(QStringView text) {
     while (text.startsWith(u'/'))
         text = text.sliced(1);
@@ -82,7 +90,7 @@ bool hasHiddenPart(std::string_view path) {
 } // namespace
 
 std::optional<QString> resolveDestination(const QString& text, const RulePlace& place) {
-    const QString said = text.trimmed();
+    const QString said = withoutQuotes(text.trimmed());
     const QString lower = said.toLower();
     if (said.isEmpty() || lower == "none"_L1 || lower == "n/a"_L1 || lower == "null"_L1)
         return std::nullopt;

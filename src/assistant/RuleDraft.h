@@ -12,9 +12,8 @@ struct RuleDraft {
     Rule rule;
     QString note = {};         ///< the model's own words about what the rule can't do; may be empty
     QStringList warnings = {}; ///< sentences to be shown beside the rule, what it lacks among them
-    /// It leads out of the user's own folders, lacks a part of what was asked for, or may catch
-    /// nothing or what wasn't meant: not to be saved before the user has seen the warnings and said
-    /// so.
+    /// It leads out of the user's own folders, lacks a part, or may catch nothing or what wasn't
+    /// meant, as the warnings say: not to be saved before the user has seen them and said so.
     bool needsConsent = false;
 };
 

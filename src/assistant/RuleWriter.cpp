@@ -7,6 +7,7 @@
 #include "assistant/ValueWarnings.h"
 #include "assistant/backends/AIError.h"
 #include "engine/RuleChecks.h"
+#include "engine/RuleSummary.h"
 #include "model/JsonFields.h"
 #include "model/JsonText.h"
 
@@ -18,6 +19,9 @@ namespace quillon {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr std::size_t mostConditions = 50;
+constexpr std::size_t mostActions = 20;
 
 struct SaidCondition {
     QString attribute = {};
@@ -89,20 +93,27 @@ QString bareExtension(QStringView text) {
     return text.toString().toLower();
 }
 
-/// Nothing when it is about something that a rule can't look at.
-std::optional<Condition> conditionFrom(const SaidCondition& said) {
+/// Nothing when it is about something that a rule can't look at. Another comparison than the one
+/// that was said may be the opposite of it, and is told.
+std::optional<Condition> conditionFrom(const SaidCondition& said, QStringList& warnings) {
     const auto attribute = fromRawValue<ConditionAttribute>(said.attribute);
     if (!attribute)
         return std::nullopt;
     const std::vector<MatchOperator> allowed = allowedOperators(*attribute);
     const auto op = fromRawValue<MatchOperator>(said.op);
     const bool isAllowed = op && std::ranges::find(allowed, *op) != allowed.end();
-    return Condition{.attribute = *attribute,
-                     .op = isAllowed ? *op : allowed.front(),
-                     .value = *attribute == ConditionAttribute::extension
-                                  ? bareExtension(said.value)
-                                  : said.value,
-                     .unit = fromRawValue<SizeUnit>(said.sizeUnit).value_or(SizeUnit::mb)};
+    Condition condition{.attribute = *attribute,
+                        .op = isAllowed ? *op : allowed.front(),
+                        .value = *attribute == ConditionAttribute::extension
+                                     ? bareExtension(said.value)
+                                     : said.value,
+                        .unit = fromRawValue<SizeUnit>(said.sizeUnit).value_or(SizeUnit::mb)};
+    if (!isAllowed)
+        warnings.append(
+            u"Dobbin compared “%1” by %2, which it doesn't have. The condition now reads “%3”, "
+            "which may be the opposite of what you meant."_s.arg(
+                rawValue(*attribute), quotedForError(said.op), summaryText(condition)));
+    return condition;
 }
 
 /// Nothing when it is something that a rule of the assistant's may not do, or a tag of a colour
@@ -141,22 +152,15 @@ void addConditions(RuleDraft& draft, const SaidRule& said) {
     std::vector<Condition>& conditions = draft.rule.conditions;
     conditions.clear();
     for (const SaidCondition& each : said.conditions)
-        if (auto condition = conditionFrom(each))
+        if (auto condition = conditionFrom(each, draft.warnings))
             conditions.push_back(*std::move(condition));
     if (conditions.size() == said.conditions.size())
         return;
-    draft.needsConsent = true;
     draft.warnings.append(
         conditions.empty()
             ? u"Dobbin asked only for things that a rule can't look at, so no condition is left."_s
             : u"Dobbin asked for something that a rule can't look at. That condition is left out, "
               "so the rule may catch other files than you meant."_s);
-}
-
-/// Without conditions it never matches; every text has an empty one in it.
-bool catchesNothingOrAll(const Rule& rule) {
-    return rule.conditions.empty() ||
-           std::ranges::any_of(rule.conditions, &QString::isEmpty, &Condition::value);
 }
 
 void addActions(RuleDraft& draft, const SaidRule& said, const RulePlace& place) {
@@ -169,23 +173,16 @@ void addActions(RuleDraft& draft, const SaidRule& said, const RulePlace& place) 
         if (action && std::ranges::find(actions, action->type, &RuleAction::type) == actions.end())
             actions.push_back(*action);
     }
-    if (isComplete)
-        return;
-    draft.needsConsent = true;
-    draft.warnings.append(
-        u"Dobbin asked for something that its rules can't do. That step is left out."_s);
+    if (!isComplete)
+        draft.warnings.append(
+            u"Dobbin asked for something that its rules can't do. That step is left out."_s);
 }
 
 void addDestinationWarnings(RuleDraft& draft, const RulePlace& place, const Platform& platform) {
-    for (const RuleAction& action : draft.rule.actions) {
-        const auto warning = action.destination
-                                 ? destinationWarning(*action.destination, place, platform)
-                                 : std::nullopt;
-        if (!warning)
-            continue;
-        draft.warnings.append(*warning);
-        draft.needsConsent = true;
-    }
+    for (const RuleAction& action : draft.rule.actions)
+        if (action.destination)
+            if (const auto warning = destinationWarning(*action.destination, place, platform))
+                draft.warnings.append(*warning);
 }
 
 } // namespace
@@ -202,7 +199,7 @@ AIRequest ruleRequest(const QString& sentence, const RulePlace& place) {
 Expected<RuleDraft> draftFromJson(const QString& answer, const RulePlace& place,
                                   const Platform& platform) {
     const auto said = saidRule(answer);
-    if (!said)
+    if (!said || said->conditions.size() > mostConditions || said->actions.size() > mostActions)
         return std::unexpected(asError({.kind = AIError::Kind::badResponse}));
     RuleDraft draft{.rule = {}, .note = said->note};
     draft.rule.matchMode = fromRawValue<MatchMode>(said->matchMode).value_or(MatchMode::all);
@@ -211,11 +208,9 @@ Expected<RuleDraft> draftFromJson(const QString& answer, const RulePlace& place,
     if (draft.rule.actions.empty())
         return std::unexpected(asError({.kind = AIError::Kind::badResponse}));
     draft.rule.name = ruleName(said->name, draft.rule);
-    const QStringList misunderstood = valueWarnings(draft.rule);
-    draft.needsConsent =
-        draft.needsConsent || !misunderstood.isEmpty() || catchesNothingOrAll(draft.rule);
-    draft.warnings += validationWarnings(draft.rule) + misunderstood;
+    draft.warnings += validationWarnings(draft.rule) + valueWarnings(draft.rule);
     addDestinationWarnings(draft, place, platform);
+    draft.needsConsent = !draft.warnings.isEmpty();
     return draft;
 }
 

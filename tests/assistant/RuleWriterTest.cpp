@@ -127,12 +127,12 @@ TEST_F(RuleWriter, RepairsConditions) {
         {"Extension|is|.tar.gz.", "If extension is “tar.gz”"},
         {"Extension|ends with|ÄÖ", "If extension ends with “äö”"},
         {"Extension|is| . ", "If extension is “”*!"},
-        {"Name|within last (days)|30", "If name contains “30”"},
-        {"Name|equals|x", "If name contains “x”"},
+        {"Name|within last (days)|30", "If name contains “30”*!"},
+        {"Name|equals|x", "If name contains “x”*!"},
         {"Name|begins with| Screen Shot.", "If name begins with “ Screen Shot.”"},
         {"Name|contains|", "If name contains “”*!"},
         {"Full name|matches regex|^IMG_", "If full name matches regex “^IMG_”"},
-        {"Kind|contains|pdf", "If kind is PDFs"},
+        {"Kind|contains|pdf", "If kind is PDFs*!"},
         {"Kind|is not|PDF", "If kind is not PDF*!"},
         {"Tag|is not|red", "If not tagged Red"},
         {"Tag|is|Red", "If tagged Red*!"},
@@ -140,13 +140,13 @@ TEST_F(RuleWriter, RepairsConditions) {
         {"Date added|older than (days)|a week", "If added over a week days ago*!"},
         {"Date added|before|May 2024", "If added before May 2024*!"},
         {"Name|matches regex|(", "If name matches regex “(”*!"},
-        {"Size|is|10|GB", "If larger than 10 GB"},
+        {"Size|is|10|GB", "If larger than 10 GB*!"},
         {"Size|less than|5|TB", "If smaller than 5 MB"},
-        {"Date added|contains|7", "If added in the last 7 days"},
+        {"Date added|contains|7", "If added in the last 7 days*!"},
         {"Date created|before|2024-01-01", "If created before 2024-01-01"},
         {"Last opened|older than (days)|30", "If not opened in over 30 days"},
-        {"Where from|greater than|amazon.com", "If source contains “amazon.com”"},
-        {"Dobbin says it|contains|a receipt", "If Dobbin says it's a receipt"},
+        {"Where from|greater than|amazon.com", "If source contains “amazon.com”*!"},
+        {"Dobbin says it|contains|a receipt", "If Dobbin says it's a receipt*!"},
         {"Dobbin says it|is|", "If Dobbin says it's *!"},
         {"Extension|is|jpg; Extension|is|png", "If extension is “jpg” or extension is “png”",
          "any"},
@@ -166,6 +166,10 @@ TEST_F(RuleWriter, RepairsConditions) {
     EXPECT_EQ(drafted->note, u" As it is. "_s);
     EXPECT_EQ(drafted->rule.conditions[1].unit, SizeUnit::gb);
     EXPECT_NE(drafted->rule.conditions[0].id, drafted->rule.conditions[1].id);
+    EXPECT_EQ(draft(answerOf(u"Last opened|greater than|30"_s, u"Move to Trash"_s))->warnings,
+              QStringList(u"Dobbin compared “Last opened” by “greater than”, which it doesn't "
+                          "have. The condition now reads “opened in the last 30 days”, which may "
+                          "be the opposite of what you meant."_s));
 }
 
 TEST_F(RuleWriter, RepairsActions) {
@@ -176,7 +180,7 @@ TEST_F(RuleWriter, RepairsActions) {
         {"Move to folder|Bills; Add tag|||green",
          "Move to Bills, Tag Green <HOME/Downloads/Bills>"},
         {"Move to folder|One; Move to folder|Two", "Move to One <HOME/Downloads/One>"},
-        {"Move to folder|; Move to folder|Two", "Move to …*"},
+        {"Move to folder|; Move to folder|Two", "Move to …*!"},
         {"Copy to folder|One; Move to folder|Two",
          "Copy to One, Move to Two <HOME/Downloads/One> <HOME/Downloads/Two>"},
         {"Run shell script|rm; Move to folder|One", "Move to One <HOME/Downloads/One>*!"},
@@ -211,10 +215,16 @@ TEST_F(RuleWriter, SaysWhereItWouldMoveFilesTo) {
         {u"Bills/2026/"_s, "<HOME/Downloads/Bills/2026>"},
         {u"../../etc"_s, "<HOME/Downloads/etc>"},
         {u".../..../x"_s, "<HOME/Downloads/.//x>"},
-        {u"N/A"_s, "*"},
-        {u"none"_s, "*"},
-        {u"../.."_s, "*"},
-        {u" \t"_s, "*"},
+        {u"N/A"_s, "*!"},
+        {u"none"_s, "*!"},
+        {u"../.."_s, "*!"},
+        {u" \t"_s, "*!"},
+        {u"“”"_s, "*!"},
+        {u" “receipts” "_s, "<ROOT/shared/receipts>"},
+        {u"\"Receipts\""_s, "<ROOT/shared/receipts>"},
+        {u"'~/Music'"_s, "<~/Music>"},
+        {u"\""_s, "<HOME/Downloads/\">"},
+        {u"“Receipts\""_s, "<HOME/Downloads/“Receipts\">"},
         {u"~/Documents/Receipts"_s, "<~/Documents/Receipts>"},
         {u"~"_s, "<~>"},
         {u"~/Alias/Bills"_s, "<~/Alias/Bills>"},
@@ -243,7 +253,7 @@ TEST_F(RuleWriter, SaysWhereItWouldMoveFilesTo) {
         ASSERT_TRUE(drafted) << row.said.toStdString();
         const QString text = told(drafted);
         if (row.destination)
-            EXPECT_EQ(text.sliced(text.indexOf(u"<"_s) < 0 ? text.size() - 1 : text.indexOf(u'<')),
+            EXPECT_EQ(text.sliced(text.indexOf(u"<"_s) < 0 ? text.size() - 2 : text.indexOf(u'<')),
                       QString::fromUtf8(row.destination));
         else
             EXPECT_TRUE(text.endsWith(u"*!"_s)) << row.said.toStdString();
@@ -286,8 +296,20 @@ TEST_F(RuleWriter, NamesARuleThatTheModelDidNotName) {
 TEST_F(RuleWriter, RefusesWhatIsNotOfTheFormThatWasAskedFor) {
     const QString good = answerOf(u"Kind|is|pdf"_s, u"Move to Trash"_s);
     EXPECT_EQ(told(draft(good)), u"If kind is PDFs → Move to Trash"_s);
-    QStringList answers{u""_s,           u"null"_s,           u"[]"_s, u"{}"_s, u"Sure! "_s + good,
-                        good.chopped(3), u"["_s + good + u']'};
+    const auto many = [](qsizetype conditions, qsizetype actions) {
+        return answerOf(QStringList(conditions, u"Kind|is|pdf"_s).join(u"; "_s),
+                        QStringList(actions, u"Move to Trash"_s).join(u"; "_s));
+    };
+    EXPECT_TRUE(draft(many(50, 20)));
+    QStringList answers{u""_s,
+                        u"null"_s,
+                        u"[]"_s,
+                        u"{}"_s,
+                        u"Sure! "_s + good,
+                        good.chopped(3),
+                        u"["_s + good + u']',
+                        many(51, 1),
+                        many(1, 21)};
     const QJsonObject whole = QJsonDocument::fromJson(good.toUtf8()).object();
     const auto add = [&](const QString& key, const QJsonValue& value) {
         QJsonObject broken = whole;
