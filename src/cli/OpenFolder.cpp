@@ -38,17 +38,19 @@ std::expected<WatchedFolder, ExitCode> viewFolder(const std::string& path, const
 ExitCode changeAndRun(const StoreAccess& store, const std::function<void(AppStore&)>& change,
                       const QStringList& sentences, bool json, const Console& console) {
     const std::vector<RunReport> reports = store.runsOf(change, console.mayContinue);
+    const ExitCode saved = sayWhetherSaved(store, console);
     if (json)
-        return std::max(tellRunsAsJson(reports, console), sayWhetherSaved(store, console));
+        return std::max(tellRunsAsJson(reports, console), saved);
     {
         LineBuffer lines(console.out, console.colored);
-        for (const QString& sentence : sentences)
-            lines.add(sentence).endLine();
-        if (!reports.empty())
+        if (saved == ExitCode::done)
+            for (const QString& sentence : sentences)
+                lines.add(sentence).endLine();
+        if (saved == ExitCode::done && !reports.empty())
             lines.endLine();
         addRuns(reports, lines);
     }
-    return std::max(sayHowRunsEnded(reports, console), sayWhetherSaved(store, console));
+    return std::max(sayHowRunsEnded(reports, console), saved);
 }
 
 } // namespace quillon

@@ -26,7 +26,7 @@ openFolder(const std::string& path, const Console& console, Services& services);
 viewFolder(const std::string& path, const Console& console, Services& services);
 
 /// Makes a change that sets off runs and waits for them. Prints the sentences and what the runs
-/// did, or, as JSON, only these.
+/// did, or, as JSON, only these. What couldn't be saved is told without the sentences.
 [[nodiscard]] ExitCode changeAndRun(const StoreAccess& store,
                                     const std::function<void(AppStore&)>& change,
                                     const QStringList& sentences, bool json,

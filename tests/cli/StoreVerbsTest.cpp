@@ -1,14 +1,12 @@
 #include "model/CleanupRecipe.h"
 #include "store/PersistedState.h"
 #include "support/CommandBench.h"
+#include "support/FullDisk.h"
 #include "support/PrintQt.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <gmock/gmock.h>
-
-#include <csignal>
-#include <sys/resource.h>
 
 namespace quillon::testing {
 namespace {
@@ -179,27 +177,6 @@ TEST_F(StoreVerbs, pauseHoldsUntilResumed) {
     EXPECT_THAT(run({"resume"}).out, HasSubstr("It was not paused."));
 }
 
-/// No file can grow while this lives, so that no save succeeds.
-class FullDisk {
-public:
-    FullDisk() {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit none{.rlim_cur = 0, .rlim_max = before_.rlim_max};
-        handler_ = std::signal(SIGXFSZ, SIG_IGN);
-        ::setrlimit(RLIMIT_FSIZE, &none);
-    }
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
-
 TEST_F(StoreVerbs, aChangeThatCannotBeSavedIsSaid) {
     const auto paused = [&] {
         const FullDisk full;
@@ -208,6 +185,12 @@ TEST_F(StoreVerbs, aChangeThatCannotBeSavedIsSaid) {
     EXPECT_EQ(paused.code, ExitCode::someFailed);
     EXPECT_THAT(paused.err, HasSubstr("The change can't be saved (File too large)"));
     EXPECT_FALSE(json({"status"}).object()[u"paused"].toBool());
+    const auto added = [&] {
+        const FullDisk full;
+        return run({"rule", "add", "--folder", "@in", "--if", "extension is x", "--then", "trash"});
+    }();
+    EXPECT_THAT(added.err, HasSubstr("The change can't be saved"));
+    EXPECT_THAT(added.out, Not(HasSubstr("Added")));
 }
 
 TEST_F(StoreVerbs, statusTellsOfEachFolder) {
