@@ -4,7 +4,7 @@
 #include "cli/LogLines.h"
 #include "cli/OfferedChange.h"
 #include "cli/OpenStore.h"
-#include "cli/ProgressBar.h"
+#include "cli/ThinkingHint.h"
 #include "cli/Verbs.h"
 #include "service/LoopTask.h"
 
@@ -27,11 +27,8 @@ std::optional<ChatTurn> answerTo(const QString& question, const Console& console
             task->ended.raise();
         });
     });
-    ProgressBar hint(console.err, services.platform().clock, console.showsProgress);
-    const bool came = task->ended.wait([&] {
-        hint.draw("Dobbin is thinking…");
-        return !console.mayContinue || console.mayContinue();
-    });
+    ThinkingHint hint(console, services.platform().clock);
+    const bool came = task->ended.wait([&] { return hint.mayContinue(); });
     return came ? std::move(task->result) : std::nullopt;
 }
 

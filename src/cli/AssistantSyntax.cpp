@@ -3,11 +3,6 @@
 #include "cli/Verbs.h"
 
 namespace quillon {
-namespace {
-
-constexpr qsizetype longestQuestion = 4000;
-
-} // namespace
 
 Command defineKeySet(CLI::App& /*parser*/) {
     return keySetCommand;
@@ -56,7 +51,7 @@ Command defineAsk(CLI::App& parser) {
         if (words->empty() != options->number.has_value() ||
             (question.isEmpty() && !words->empty()))
             throw CLI::ValidationError("Give either a question or --do N");
-        if (question.size() > longestQuestion)
+        if (question.size() > longestSentence)
             throw CLI::ValidationError("The question is too long; ask it in fewer words");
     });
     return bound<askCommand>(options);

@@ -1,8 +1,10 @@
 #include "cli/DraftedRule.h"
 
+#include "assistant/DraftMemory.h"
 #include "assistant/FolderView.h"
 #include "assistant/RuleDestination.h"
 #include "assistant/backends/AIManager.h"
+#include "cli/ThinkingHint.h"
 #include "platform/FileNames.h"
 #include "platform/FileSystem.h"
 #include "service/LoopTask.h"
@@ -36,31 +38,49 @@ QStringList destinationsOf(const Rule& rule, const Platform& platform) {
     return paths;
 }
 
+Chosen<QString> modelsAnswer(const QString& sentence, const RulePlace& place,
+                             const Console& console, Services& services) {
+    ThinkingHint hint(console, services.platform().clock);
+    const auto answer = resultOnLoop<Expected<QString>>(
+        services,
+        [&services, request = ruleRequest(sentence, place)] {
+            return services.assistant().send(request);
+        },
+        [&] { return hint.mayContinue(); });
+    if (!answer)
+        return refusal(ExitCode::someFailed, u"Stopped on request; no rule was written"_s);
+    if (!*answer)
+        return refusal(ExitCode::someFailed, answer->error().message);
+    return **answer;
+}
+
 } // namespace
 
-Chosen<DraftedRule> draftRule(const QString& sentence, const FolderPlace& place,
+Chosen<DraftedRule> draftRule(const QString& text, const FolderPlace& place, DraftSource source,
                               const Console& console, Services& services) {
-    const auto view = FolderView::read(services.platform(), services.judge(), {},
+    const QString sentence = text.trimmed();
+    const Platform& platform = services.platform();
+    const auto view = FolderView::read(platform, services.judge(), {},
                                        {.folder = place.folder, .handled = place.handled});
     if (!view)
         return refusal(ExitCode::unreadable, u"The folder %1 can't be read: %2"_s.arg(
                                                  place.folder.path, view.error().message));
     const RulePlace rulePlace{.folder = place.folder, .otherFolders = place.otherFolders};
-    const auto answer = resultOnLoop<Expected<QString>>(
-        services,
-        [&services, request = ruleRequest(sentence, rulePlace)] {
-            return services.assistant().send(request);
-        },
-        console.mayContinue);
+    DraftMemory memory(services.storage(), platform.fileSystem, StorePlaces(platform.folders.data));
+    const auto shown = source == DraftSource::memory
+                           ? memory.answer(place.folder.path, sentence, platform.clock.now())
+                           : std::nullopt;
+    const Chosen<QString> answer =
+        shown ? Chosen<QString>(*shown) : modelsAnswer(sentence, rulePlace, console, services);
     if (!answer)
-        return refusal(ExitCode::someFailed, u"Stopped on request; no rule was written"_s);
-    if (!*answer)
-        return refusal(ExitCode::someFailed, answer->error().message);
-    auto draft = draftFromJson(**answer, rulePlace, services.platform());
+        return std::unexpected(answer.error());
+    auto draft = draftFromJson(*answer, rulePlace, platform);
     if (!draft)
         return refusal(ExitCode::someFailed, draft.error().message);
-    DraftedRule drafted{.draft = std::move(*draft)};
-    drafted.destinations = destinationsOf(drafted.draft.rule, services.platform());
+    if (!shown)
+        memory.remember(place.folder.path, sentence, *answer, platform.clock.now());
+    DraftedRule drafted{.draft = std::move(*draft), .isSeen = shown.has_value()};
+    drafted.destinations = destinationsOf(drafted.draft.rule, platform);
     lookWhatItCatches(drafted, *view);
     return drafted;
 }

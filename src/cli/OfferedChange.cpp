@@ -61,7 +61,7 @@ ExitCode write(const DobbinAction& action, bool json, const StoreAccess& store,
         return ExitCode::someFailed;
     }
     const QString sentence = action.description.value_or(QString());
-    const auto draft = draftRule(sentence, place, console, services);
+    const auto draft = draftRule(sentence, place, DraftSource::model, console, services);
     if (!draft) {
         if (!draft.error().sentence.isEmpty())
             console.say(draft.error().sentence);
@@ -79,7 +79,7 @@ ExitCode write(const DobbinAction& action, bool json, const StoreAccess& store,
     }
     LineBuffer lines(console.out, console.colored);
     addDraft(*draft, lines);
-    lines.add(u"Not saved. To have it written again and saved: "_s + save).endLine();
+    lines.add(u"Not saved. To have it saved: "_s + save).endLine();
     return ExitCode::done;
 }
 

@@ -15,6 +15,9 @@ namespace quillon {
 
 /// What several verbs' options are put together from.
 
+/// Of what is put to a model in one's own words.
+inline constexpr qsizetype longestSentence = 4000;
+
 void addJson(CLI::App& parser, bool& json);
 
 /// The required argument DIR.

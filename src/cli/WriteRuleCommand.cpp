@@ -23,33 +23,50 @@ struct Saving {
     ExitCode code = ExitCode::done;
 };
 
-/// A rule with such warnings is saved only when the user has said so, here or beforehand.
-bool isAgreed(const RuleDraft& draft, const WriteRuleOptions& options, const Console& console) {
-    if (!draft.needsConsent || options.isAgreed)
+/// A rule with warnings, or one that trashes files and that nobody has seen before, is saved only
+/// when the user has said so, here or beforehand.
+bool isAgreed(const DraftedRule& drafted, const WriteRuleOptions& options, const Console& console) {
+    const RuleDraft& draft = drafted.draft;
+    const bool isUnseenTrash =
+        !drafted.isSeen && std::ranges::find(draft.rule.actions, ActionType::trash,
+                                             &RuleAction::type) != draft.rule.actions.end();
+    if (options.isAgreed || (!draft.needsConsent && !isUnseenTrash))
         return true;
     std::optional<std::string> typed;
     if (!options.json && console.showsProgress)
-        typed = console.secretLine("Save it in spite of the warnings? Type yes (not shown): ");
+        typed = console.secretLine(
+            draft.needsConsent ? "Save it in spite of the warnings? Type yes (not shown): "
+                               : "Save it, although it moves files to the Trash? Type yes (not "
+                                 "shown): ");
     const bool isYes = typed && QString::fromStdString(*typed).trimmed().toLower() == u"yes";
-    if (!isYes)
-        console.say(typed ? u"The rule is not saved"_s
-                          : u"The rule is not saved because of its warnings; --anyway saves it "
-                            "all the same"_s);
-    return isYes;
+    if (isYes)
+        return true;
+    if (typed)
+        console.say(u"The rule is not saved"_s);
+    else if (draft.needsConsent)
+        console.say(u"The rule is not saved because of its warnings; --anyway saves it all the "
+                    "same"_s);
+    else
+        console.say(u"The rule is not saved because it moves files to the Trash and you hadn't "
+                    "seen it; --anyway saves it all the same"_s);
+    return false;
 }
 
-Saving save(const RuleDraft& draft, const WriteRuleOptions& options, const Console& console,
+Saving save(const DraftedRule& drafted, const WriteRuleOptions& options, const Console& console,
             Services& services) {
-    if (!isAgreed(draft, options, console))
+    if (!isAgreed(drafted, options, console))
         return {.code = ExitCode::someFailed};
     const auto open = openFolder(options.folder, console, services);
     if (!open)
         return {.code = open.error()};
-    Saving saving{.isSaved = true};
+    Saving saving;
     saving.runs = open->store.runsOf(
-        [&](AppStore& store) { store.addRules({draft.rule}, open->folder.id, RuleSource::dobbin); },
+        [&](AppStore& store) {
+            store.addRules({drafted.draft.rule}, open->folder.id, RuleSource::dobbin);
+        },
         console.mayContinue);
     saving.code = sayWhetherSaved(open->store, console);
+    saving.isSaved = saving.code == ExitCode::done;
     return saving;
 }
 
@@ -64,8 +81,7 @@ QString savingHint(const DraftedRule& drafted, const FolderPlace& place) {
 
 ExitCode tellAsJson(const DraftedRule& drafted, const FolderPlace& place,
                     const WriteRuleOptions& options, const Console& console, Services& services) {
-    const Saving saving =
-        options.saves ? save(drafted.draft, options, console, services) : Saving{};
+    const Saving saving = options.saves ? save(drafted, options, console, services) : Saving{};
     JsonStream json;
     json.beginObject().key("folder").text(place.folder.path);
     writeDraft(json, drafted);
@@ -88,11 +104,13 @@ ExitCode tell(const DraftedRule& drafted, const FolderPlace& place, const WriteR
     console.out.flush(); // before anything is said or asked about it
     if (!options.saves)
         return ExitCode::done;
-    const Saving saving = save(drafted.draft, options, console, services);
-    if (saving.isSaved) {
+    const Saving saving = save(drafted, options, console, services);
+    {
         LineBuffer lines(console.out, console.colored);
-        lines.add(u"Saved as a rule of %1."_s.arg(place.folder.name())).endLine();
-        lines.endLine();
+        if (saving.isSaved) {
+            lines.add(u"Saved as a rule of %1."_s.arg(place.folder.name())).endLine();
+            lines.endLine();
+        }
         addRuns(saving.runs, lines);
     }
     return std::max(saving.code, sayHowRunsEnded(saving.runs, console));
@@ -111,7 +129,8 @@ ExitCode writeRuleCommand(const WriteRuleOptions& options, const Console& consol
         return ExitCode::usage;
     }
     const auto drafted =
-        draftRule(QString::fromStdString(options.sentence).trimmed(), *place, console, services);
+        draftRule(QString::fromStdString(options.sentence), *place,
+                  options.saves ? DraftSource::memory : DraftSource::model, console, services);
     if (!drafted)
         return sayRefusal(drafted.error(), console);
     return options.json ? tellAsJson(*drafted, *place, options, console, services)

@@ -17,8 +17,11 @@ Command defineWriteRule(CLI::App& parser) {
     addJson(parser, options->json);
     parser.callback([options, words] {
         options->sentence = CLI::detail::join(*words, " ");
-        if (QString::fromStdString(options->sentence).trimmed().isEmpty())
+        const QString sentence = QString::fromStdString(options->sentence).trimmed();
+        if (sentence.isEmpty())
             throw CLI::ValidationError("SENTENCE says nothing; for example “Trash old installers”");
+        if (sentence.size() > longestSentence)
+            throw CLI::ValidationError("SENTENCE is too long; say it in fewer words");
     });
     return bound<writeRuleCommand>(options);
 }

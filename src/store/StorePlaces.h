@@ -19,6 +19,8 @@ struct StorePlaces {
     [[nodiscard]] std::string memory() const { return joinPath(folder, "memory.json"); }
     /// The conversation with the assistant.
     [[nodiscard]] std::string chat() const { return joinPath(folder, "dobbin-chat.json"); }
+    /// What the rules were made from that the assistant has written last.
+    [[nodiscard]] std::string drafts() const { return joinPath(folder, "drafts.json"); }
     /// Which rules were suggested and dismissed.
     [[nodiscard]] std::string suggestions() const { return joinPath(folder, "suggestions.json"); }
     [[nodiscard]] std::string suggestionsLock() const {

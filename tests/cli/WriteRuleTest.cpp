@@ -1,4 +1,5 @@
 #include "support/CommandBench.h"
+#include "support/FullDisk.h"
 #include "support/ModelServer.h"
 #include "support/PrintQt.h"
 #include "support/PrivateKeyring.h"
@@ -23,6 +24,12 @@ QString pdfsTo(const QString& destination) {
         "operator":"is","value":"pdf","sizeUnit":"MB"}],"actions":[{"type":"Move to folder",
         "destination":"%1","renamePattern":"","tag":"none","sortBy":"none"}],"note":"Only PDFs."})"_s
         .arg(destination);
+}
+
+QString trashing(const QString& kind) {
+    return pdfsTo(QString())
+        .replace(u"Move to folder"_s, u"Move to Trash"_s)
+        .replace(u"\"pdf\""_s, u'"' + kind + u'"');
 }
 
 const QString everything =
@@ -71,9 +78,10 @@ TEST_F(WriteRule, SavesOnlyWhatTheUserHasAgreedTo) {
         {"--save --anyway --json", everything, ExitCode::done, R"("saved":true)", 2},
         {"--save", inside, ExitCode::done, "a.pdf  moved to PDFs\n\nin: tidied 1 file.\n", 3},
     };
+    int number = 0; // so that no step saves what another one has shown
     for (const auto& step : steps) {
         server.play("/api/chat", ModelServer::chatAnswer(step.answer));
-        std::vector<std::string> arguments{"write-rule", "@in", "File", "PDFs"};
+        std::vector<std::string> arguments{"write-rule", "@in", "File", std::to_string(++number)};
         std::istringstream options(step.options);
         for (std::string option; options >> option;)
             arguments.push_back(option);
@@ -87,17 +95,51 @@ TEST_F(WriteRule, SavesOnlyWhatTheUserHasAgreedTo) {
             << step.options;
     }
     EXPECT_EQ(server.requests("/api/chat").first().json()[u"messages"_s][1][u"content"_s],
-              u"File PDFs"_s);
+              u"File 1"_s);
     EXPECT_EQ(server.requests("/api/chat").size(), std::ssize(steps) - 2) << "one a draft";
     bench.write("in/c.pdf", "c");
     EXPECT_THAT(bench.run({"write-rule", "@in", "x"}).out, HasSubstr("Would catch none of"))
         << "the rule of before takes it";
 }
 
+TEST_F(WriteRule, SavesTheRuleThatWasShown) {
+    ASSERT_EQ(bench.run({"folder", "add", "@in"}).code, ExitCode::done);
+    const auto write = [&](const char* sentence, bool saves, const QString& answer,
+                           const char* typed = nullptr) {
+        server.play("/api/chat", ModelServer::chatAnswer(answer));
+        std::vector<std::string> arguments{"write-rule", "@in", sentence};
+        if (saves)
+            arguments.emplace_back("--save");
+        const auto result = bench.run(arguments, typed ? typed : "", typed);
+        return result.out + result.err;
+    };
+    EXPECT_THAT(write("File PDFs", false, pdfsTo(u"Shown"_s)), HasSubstr("Move to Shown"));
+    {
+        const FullDisk full;
+        EXPECT_THAT(write("Anything", true, pdfsTo(u"Lost"_s)),
+                    AllOf(HasSubstr("can't be saved"), Not(HasSubstr("Saved as"))));
+    }
+    EXPECT_THAT(write("File PDFs", false, pdfsTo(u"Shown"_s)), HasSubstr("Move to Shown"));
+    EXPECT_THAT(write(" File PDFs ", true, everything),
+                AllOf(HasSubstr("Saved as"), HasSubstr("a.pdf  moved to Shown")));
+    EXPECT_EQ(server.requests("/api/chat").size(), 3) << "nobody is asked again";
+
+    const char* unseen = "Trash and you hadn't seen it; --anyway";
+    EXPECT_THAT(write("Trash text", true, trashing(u"document"_s)),
+                AllOf(HasSubstr(unseen), Not(HasSubstr("Saved as"))));
+    EXPECT_THAT(write("Trash text now", true, trashing(u"document"_s), "no\n"),
+                HasSubstr("The rule is not saved\n"));
+    EXPECT_THAT(write("Trash text", true, everything), HasSubstr("b.txt  moved to Trash"));
+    EXPECT_THAT(write("Move", true, pdfsTo(QString())), HasSubstr("because of its warnings"));
+    EXPECT_THAT(write("Move", true, everything),
+                AllOf(HasSubstr("Move to …"), HasSubstr("because of its warnings")));
+}
+
 TEST_F(WriteRule, ShowsWhatItWouldCatchAndAsksNobodyAboutFiles) {
     QString answer = pdfsTo(u"PDFs"_s);
     server.play("/api/chat",
                 ModelServer::chatAnswer(answer.replace(u"\"Kind\""_s, u"\"Dobbin says it\""_s)));
+    std::filesystem::create_directories(bench.at("data/Quillon"));
     const auto before = bench.files();
     const auto result = bench.run({"write-rule", "@in", "File receipts", "--json"});
     const QJsonObject shown = QJsonDocument::fromJson(result.out.c_str()).object();
@@ -107,7 +149,9 @@ TEST_F(WriteRule, ShowsWhatItWouldCatchAndAsksNobodyAboutFiles) {
     EXPECT_EQ(shown[u"summary"_s], u"If Dobbin says it's pdf → Move to PDFs"_s);
     EXPECT_EQ(shown[u"rule"_s][u"actions"_s][0][u"destination"_s],
               QString::fromStdString(bench.at("in/PDFs")));
-    EXPECT_EQ(bench.files(), before);
+    auto after = bench.files();
+    EXPECT_THAT(after.extract("data/Quillon/drafts.json").mapped(), HasSubstr("File receipts"));
+    EXPECT_EQ(after, before);
     EXPECT_EQ(server.requests("/api/chat").size(), 1);
 }
 
@@ -122,6 +166,7 @@ TEST_F(WriteRule, SaysWhyThereIsNone) {
         {{"@nowhere", "x"}, ExitCode::unreadable, "can't be read"},
         {{"@in/a.pdf", "x"}, ExitCode::unreadable, "can't be read"},
         {{"@in", " "}, ExitCode::usage, "SENTENCE says nothing"},
+        {{"@in", std::string(4001, 'x')}, ExitCode::usage, "SENTENCE is too long"},
         {{"@in", "x", "--anyway"}, ExitCode::usage, "--save"},
         {{"@in", "x"}, ExitCode::someFailed, "Run “quillon model pull” to download one."},
     };
