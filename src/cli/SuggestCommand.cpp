@@ -9,6 +9,7 @@
 #include "cli/LineBuffer.h"
 #include "cli/ShellWord.h"
 #include "cli/SuggestOutput.h"
+#include "cli/ThinkingHint.h"
 #include "cli/Verbs.h"
 #include "platform/Clock.h"
 #include "service/LoopTask.h"
@@ -62,16 +63,14 @@ std::vector<RuleSuggestion> named(std::vector<RuleSuggestion> counted, const Fol
     if (!namingRequest(counted))
         return counted;
     const auto deadline = std::chrono::steady_clock::now() + namingPatience;
+    ThinkingHint hint(console, services.platform().clock);
     using Named = std::optional<std::vector<RuleSuggestion>>;
     const auto answer = resultOnLoop<Named>(
         services,
         [&services, counted, folder = view.folder()] {
             return askForNames(services.assistant(), counted, folder);
         },
-        [&] {
-            return (!console.mayContinue || console.mayContinue()) &&
-                   std::chrono::steady_clock::now() < deadline;
-        });
+        [&] { return hint.mayContinue() && std::chrono::steady_clock::now() < deadline; });
     return answer && *answer ? chosenSuggestions(view, **answer, dismissed) : counted;
 }
 
