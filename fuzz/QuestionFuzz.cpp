@@ -34,11 +34,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     hold(time.otherWords.size() <= words.size());
     if (time.span && time.span->from && time.span->until)
         hold(time.span->from->isValid() && time.span->until->isValid());
-    hold(relevantEntries(question, log, now, 2).size() <= 2);
+    hold(relevantEntries(question, log, now, 2).entries.size() <= 2);
 
     LogEntry named;
     named.fileName = question;
     named.ruleName = named.actionSummary = question;
-    hold(relevantEntries(QStringLiteral("my invoice.pdf yesterday"), {named}, now, 5).size() <= 1);
+    hold(relevantEntries(QStringLiteral("my invoice.pdf yesterday"), {named}, now, 5)
+             .entries.size() <= 1);
     return 0;
 }

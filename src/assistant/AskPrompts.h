@@ -28,10 +28,11 @@ inline constexpr std::size_t onDeviceAnswer = 400;
 /// the question, each name and text on a line of its own and cut when long. What doesn't fit is
 /// left out, the least important first: sentences of the rules of folders that neither an entry nor
 /// the question is about, then those rules, then the last of the entries; how many rules are left
-/// out is said. The question comes last and is never left out. Dates are local. Any thread.
+/// out is said, and so is how many entries match in all, `matching`, when not all of them are
+/// there. The question comes last and is never left out. Dates are local. Any thread.
 [[nodiscard]] QString compose(const QString& question, const std::vector<LogEntry>& entries,
                               const std::vector<WatchedFolder>& folders,
                               const std::vector<RuleConflict>& conflicts,
-                              MessageSize most = MessageSize::claude);
+                              MessageSize most = MessageSize::claude, std::size_t matching = 0);
 
 } // namespace quillon

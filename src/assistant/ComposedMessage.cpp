@@ -89,11 +89,13 @@ QString questionWithin(const QString& question, std::size_t most) {
 
 class Composer {
 public:
-    Composer(const QString& question, const std::vector<LogEntry>& entries, std::size_t most)
+    Composer(const QString& question, const std::vector<LogEntry>& entries, std::size_t most,
+             std::size_t matching)
         : most_(most)
         , question_(questionWithin(question, most))
         , plainQuestion_(plainText(question_))
-        , entries_(entries) {}
+        , entries_(entries)
+        , matching_(std::max(matching, entries.size())) {}
 
     void addEntries() {
         for (std::size_t i = 0; i < entries_.size(); ++i)
@@ -137,6 +139,10 @@ public:
         const QString activity = textOf(activity_);
         QString text =
             u"Activity:"_s + (activity.isEmpty() ? u"\n(no matching activity)"_s : activity);
+        if (const auto shown = std::size_t(std::ranges::count(activity_, true, &Piece::isIn));
+            shown > 0 && shown < matching_)
+            text += u"\n(%1 of %2 matching entries)"_s.arg(QString::number(shown),
+                                                           QString::number(matching_));
         text += u"\n\nRules:"_s + (hasFolders ? textOf(rules_) : u"\n(no folders)"_s);
         if (const auto left = std::ranges::count_if(
                 rules_, [](const Piece& piece) { return piece.isRule && !piece.isIn; }))
@@ -149,7 +155,8 @@ public:
 private:
     /// All that stands around the pieces.
     static constexpr QStringView frame =
-        u"Activity:\n(no matching activity)\n\nRules:\n(no folders)\n(100000 more rules are left "
+        u"Activity:\n(no matching activity)\n(25 of 100000 matching entries)\n\nRules:\n(no "
+        u"folders)\n(100000 more rules are left "
         "out)\n\nChecked on this Mac:\n";
 
     static std::size_t add(std::vector<Piece>& pieces, Importance importance, const QString& text,
@@ -205,6 +212,7 @@ private:
     const QString question_;
     const QString plainQuestion_;
     const std::vector<LogEntry>& entries_;
+    const std::size_t matching_;
     std::vector<Piece> activity_, rules_, conflicts_;
 };
 
@@ -212,8 +220,9 @@ private:
 
 QString compose(const QString& question, const std::vector<LogEntry>& entries,
                 const std::vector<WatchedFolder>& folders,
-                const std::vector<RuleConflict>& conflicts, MessageSize most) {
-    Composer composer(question, entries, std::size_t(most));
+                const std::vector<RuleConflict>& conflicts, MessageSize most,
+                std::size_t matching) {
+    Composer composer(question, entries, std::size_t(most), matching);
     composer.addEntries();
     for (const WatchedFolder& folder : folders)
         composer.addFolder(folder, folders.size() == 1);

@@ -151,7 +151,8 @@ QCoro::Task<std::optional<ChatTurn>> DobbinChat::answerOfModel(QUuid questionID,
     const Room room = toClaude ? claudeRoom : localRoom;
     const QDateTime now = localNow(around_.platform.clock);
     const auto material = std::make_shared<Material>();
-    material->entries = relevantEntries(question, around_.store.recentLogs(), now, room.entries);
+    auto relevant = relevantEntries(question, around_.store.recentLogs(), now, room.entries);
+    material->entries = std::move(relevant.entries);
     material->folders = around_.store.folders();
     Later<bool> compared(
         [&](std::function<void(bool)> done) {
@@ -167,8 +168,8 @@ QCoro::Task<std::optional<ChatTurn>> DobbinChat::answerOfModel(QUuid questionID,
     if (life.expired())
         co_return std::nullopt;
 
-    material->message =
-        compose(question, material->entries, material->folders, material->conflicts, room.message);
+    material->message = compose(question, material->entries, material->folders, material->conflicts,
+                                room.message, relevant.matching);
     AIRequest request{.system = systemPrompt(now),
                       .messages = earlierMessages(turns_, questionID, room.earlier)};
     request.messages.append({.role = AIMessage::Role::user, .text = material->message});

@@ -247,14 +247,14 @@ void keepBest(std::vector<Scored>& found, bool wantsLatest) {
     });
 }
 
-std::vector<LogEntry> newest(const std::vector<LogEntry>& logs, std::size_t limit) {
+RelevantEntries newest(const std::vector<LogEntry>& logs, std::size_t limit) {
     std::vector<const LogEntry*> sorted;
     for (const LogEntry& entry : logs)
         sorted.push_back(&entry);
     std::ranges::stable_sort(sorted, isNewer);
-    std::vector<LogEntry> chosen;
+    RelevantEntries chosen{.entries = {}, .matching = sorted.size()};
     for (std::size_t i = 0; i < std::min(limit, sorted.size()); ++i)
-        chosen.push_back(*sorted[i]);
+        chosen.entries.push_back(*sorted[i]);
     return chosen;
 }
 
@@ -287,8 +287,8 @@ std::vector<Keyword> takeQuoted(QString& question) {
 
 } // namespace
 
-std::vector<LogEntry> relevantEntries(const QString& question, const std::vector<LogEntry>& logs,
-                                      const QDateTime& now, std::size_t limit) {
+RelevantEntries relevantEntries(const QString& question, const std::vector<LogEntry>& logs,
+                                const QDateTime& now, std::size_t limit) {
     QString unquoted = question;
     std::vector<Keyword> keywords = takeQuoted(unquoted);
     const TimeInQuestion time = timeInQuestion(questionWords(unquoted), now);
@@ -308,9 +308,9 @@ std::vector<LogEntry> relevantEntries(const QString& question, const std::vector
     if (found.empty() && time.span)
         found = scored(keywords, logs, momentOf(now));
     keepBest(found, time.wantsLatest);
-    std::vector<LogEntry> chosen;
+    RelevantEntries chosen{.entries = {}, .matching = found.size()};
     for (std::size_t i = 0; i < std::min(limit, found.size()); ++i)
-        chosen.push_back(*found[i].entry);
+        chosen.entries.push_back(*found[i].entry);
     return chosen;
 }
 

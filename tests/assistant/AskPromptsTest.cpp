@@ -135,6 +135,8 @@ TEST(AskPromptsTest, ComposesEntriesRulesConflictsAndTheQuestion) {
         "Question: Where is it?"_s);
     EXPECT_EQ(compose(u"Why?"_s, {}, {}, {}),
               u"Activity:\n(no matching activity)\n\nRules:\n(no folders)\n\nQuestion: Why?"_s);
+    EXPECT_TRUE(compose(u"How many?"_s, {trashed, failed}, {}, {}, MessageSize::claude, 400)
+                    .contains(u"(something went wrong)\n(2 of 400 matching entries)\n\nRules:"_s));
 }
 
 TEST(AskPromptsTest, GivesStrangersNoLineOfTheirOwn) {
@@ -192,6 +194,7 @@ TEST(AskPromptsTest, FitsWhatAModelHasRoomFor) {
     EXPECT_TRUE(local.contains(u"Checked on this Mac:"_s));
     EXPECT_TRUE(local.contains(u"\n  10. "_s));
     EXPECT_TRUE(local.contains(u" more rules are left out)"_s));
+    EXPECT_EQ(local.contains(u" of 10 matching entries)"_s), local.count(u"\n- ") < 10);
 }
 
 TEST(AskPromptsTest, EstimatesTokensOnTheSafeSide) {

@@ -154,6 +154,8 @@ TEST_F(DobbinChatTest, answersFromTheLogAndOffersChangesWithEitherBackend) {
         const QString first = QString::fromUtf8(requests[0].body);
         EXPECT_EQ(first.count(QRegularExpression(u"“invoice\\d+\\.pdf” in "_s)),
                   withClaude ? 25 : 10);
+        EXPECT_TRUE(first.contains(withClaude ? u"(25 of 30 matching entries)"_s
+                                              : u"(10 of 30 matching entries)"_s));
         EXPECT_TRUE(
             last.endsWith(u"\n\nQuestion: Where did invoice7.pdf and the pdf invoices go?"_s));
         EXPECT_EQ(last.contains(u"User: Which pdf invoices did you move?\nDobbin: Tidied.\n\n"_s),

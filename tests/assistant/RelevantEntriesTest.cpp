@@ -185,7 +185,7 @@ TEST(RelevantEntriesTest, ChoosesWhatAQuestionIsAbout) {
     }};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.question.toStdString());
-        const auto chosen = relevantEntries(row.question, log, now(), 10);
+        const auto chosen = relevantEntries(row.question, log, now(), 10).entries;
         EXPECT_EQ(namesOf(chosen).first(std::min(row.first.size(), qsizetype(chosen.size()))),
                   row.first)
             << namesOf(chosen).join(u", ").toStdString();
@@ -203,11 +203,23 @@ TEST(RelevantEntriesTest, ChoosesWhatAQuestionIsAbout) {
     for (const QString& question :
          {u"Where did unicorn.pdf go?"_s, u"Do you like porridge?"_s, u"what happened in 2019"_s,
           u"How do I undo something?"_s, u"zebra yesterday"_s})
-        EXPECT_TRUE(relevantEntries(question, log, now(), 10).empty()) << question.toStdString();
-    EXPECT_EQ(relevantEntries(u"downloads"_s, log, now(), 25).size(), 25U);
-    EXPECT_TRUE(relevantEntries(u"downloads"_s, log, now(), 0).empty());
-    EXPECT_TRUE(relevantEntries(u"downloads"_s, {}, now(), 25).empty());
-    EXPECT_EQ(relevantEntries(QString(), log, now(), 3).size(), 3U);
+        EXPECT_TRUE(relevantEntries(question, log, now(), 10).entries.empty())
+            << question.toStdString();
+    EXPECT_EQ(relevantEntries(u"downloads"_s, log, now(), 25).entries.size(), 25U);
+    EXPECT_TRUE(relevantEntries(u"downloads"_s, log, now(), 0).entries.empty());
+    EXPECT_TRUE(relevantEntries(u"downloads"_s, {}, now(), 25).entries.empty());
+    EXPECT_EQ(relevantEntries(QString(), log, now(), 3).entries.size(), 3U);
+
+    // More match than are chosen.
+    const auto isOfToday = [](const LogEntry& one) {
+        const auto since = at(u"2026-05-23 00:00"_s).toMSecsSinceEpoch();
+        return one.date >= Timestamp(std::chrono::milliseconds(since));
+    };
+    const auto today = relevantEntries(u"How many files did you tidy today?"_s, log, now(), 2);
+    EXPECT_EQ(today.entries.size(), 2U);
+    EXPECT_EQ(today.matching, std::size_t(std::ranges::count_if(log, isOfToday)));
+    EXPECT_EQ(relevantEntries(u"podcasts"_s, log, now(), 2).matching,
+              relevantEntries(u"podcasts"_s, log, now(), 400).entries.size());
 }
 
 TEST(RelevantEntriesTest, ReadsTimesAsTheyAreMeantWhereTheClockStands) {
