@@ -47,12 +47,16 @@ QDateTime localNow(const Clock& clock) {
 }
 
 /// Those of files that are shown and of rules that the answer speaks of: a last rule for whatever
-/// is left competes with every other one, which is as it should be.
+/// is left competes with every other one, which is as it should be. An answer that proposes nothing
+/// has to speak of both rules.
 std::vector<RuleConflict> conflictsMeant(const std::vector<RuleConflict>& conflicts,
-                                         const ChatTurn& answer) {
+                                         const ChatTurn& answer, bool proposes) {
+    const auto speaksOf = [&](const QString& rule) {
+        return answer.text.contains(rule, Qt::CaseInsensitive);
+    };
     std::vector<RuleConflict> meant;
     std::ranges::copy_if(conflicts, std::back_inserter(meant), [&](const RuleConflict& conflict) {
-        return answer.text.contains(conflict.laterName, Qt::CaseInsensitive) &&
+        return speaksOf(conflict.laterName) && (proposes || speaksOf(conflict.earlierName)) &&
                std::ranges::find(answer.entries, conflict.fileName, &LogEntry::fileName) !=
                    answer.entries.end();
     });
@@ -193,7 +197,8 @@ QCoro::Task<std::vector<DobbinAction>>
 DobbinChat::suggestedChanges(std::shared_ptr<Material> material, ChatTurn answer) {
     const std::weak_ptr<const void> life = life_;
     std::vector<DobbinAction> actions;
-    if (suggestsChange(answer.text)) {
+    const bool proposes = suggestsChange(answer.text);
+    if (proposes) {
         AIRequest request{.system = extractionPrompt(),
                           .messages = {{.role = AIMessage::Role::user,
                                         .text = extractionMessage(material->message, answer.text)}},
@@ -201,12 +206,16 @@ DobbinChat::suggestedChanges(std::shared_ptr<Material> material, ChatTurn answer
         const Expected<QString> list = co_await around_.assistant().send(std::move(request));
         if (life.expired())
             co_return actions;
+        // The model found nothing that its answer proposes: it may argue against the very order
+        // that we would offer. A list that can't be had or read says nothing of that.
+        if (list && saysNoChange(*list))
+            co_return actions;
         // An answer without its changes is an answer still. Folders may have gone since.
         if (list)
             actions = actionsFromJson(*list, around_.store.folders());
     }
-    const auto more =
-        fixes(conflictsMeant(material->conflicts, answer), actions, around_.store.folders());
+    const auto more = fixes(conflictsMeant(material->conflicts, answer, proposes), actions,
+                            around_.store.folders());
     actions.insert(actions.end(), more.begin(), more.end());
     for (DobbinAction& action : actions)
         if (action.description)

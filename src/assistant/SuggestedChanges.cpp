@@ -30,6 +30,17 @@ bool isReorderOf(const DobbinAction& action, const QUuid& folderID) {
     return action.kind == DobbinAction::Kind::reorderRules && action.folderID == folderID;
 }
 
+/// The list of changes in a model's answer; nothing when it can't be read.
+std::optional<QJsonArray> listIn(const QString& json) {
+    if (json.size() > longestAnswer)
+        return std::nullopt;
+    const auto answer = parseJson(json.toUtf8());
+    if (!answer)
+        return std::nullopt;
+    const QJsonValue list = answer->isArray() ? *answer : (*answer)["actions"_L1];
+    return list.isArray() ? std::optional(list.toArray()) : std::nullopt;
+}
+
 /// The rules in the order in which the later one comes directly before the earlier one; nothing
 /// when they are in such an order by now.
 std::optional<std::vector<QUuid>> fixedOrder(std::vector<Rule> rules,
@@ -78,13 +89,8 @@ QByteArray actionsOnlySchema() {
 std::vector<DobbinAction> actionsFromJson(const QString& json,
                                           const std::vector<WatchedFolder>& folders) {
     std::vector<DobbinAction> actions;
-    const auto answer = json.size() > longestAnswer ? failure(ErrorKind::invalid, u"too long"_s)
-                                                    : parseJson(json.toUtf8());
-    if (!answer)
-        return actions;
-    const QJsonArray raw =
-        answer->isArray() ? answer->toArray() : (*answer)["actions"_L1].toArray();
-    for (const QJsonValue& value : raw) {
+    const QJsonArray list = listIn(json).value_or(QJsonArray());
+    for (const QJsonValue& value : list) {
         const auto action = resolve(rawActionFromJson(value), folders);
         if (action && std::ranges::find(actions, *action) == actions.end())
             actions.push_back(*action);
@@ -92,6 +98,11 @@ std::vector<DobbinAction> actionsFromJson(const QString& json,
             break;
     }
     return actions;
+}
+
+bool saysNoChange(const QString& json) {
+    const auto list = listIn(json);
+    return list && list->isEmpty();
 }
 
 std::vector<DobbinAction> fixes(const std::vector<RuleConflict>& conflicts,

@@ -28,6 +28,9 @@ inline constexpr std::size_t mostActions = 2; ///< that are kept with an answer
 [[nodiscard]] std::vector<DobbinAction> actionsFromJson(const QString& json,
                                                         const std::vector<WatchedFolder>& folders);
 
+/// Whether the model's answer is a list as it should be, and there is nothing in it.
+[[nodiscard]] bool saysNoChange(const QString& json);
+
 /// For the first conflict of each folder a new order that puts the later rule above the earlier
 /// one, to go with the changes that are shown already: none for a folder whose rules those reorder,
 /// and at most two changes in all.

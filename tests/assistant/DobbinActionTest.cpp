@@ -119,7 +119,9 @@ TEST(DobbinActionTest, KeepsTwoChangesOfAnAnswerAndAddsFixes) {
     for (const QString& useless :
          {u""_s, u"I'd say no."_s, u"{\"actions\":7}"_s, u"{\"actions\":[1,null,\"x\"]}"_s,
           u"["_s.repeated(200'000), three.chopped(1), QString(1, QChar(0xD800))})
-        EXPECT_TRUE(actionsFromJson(useless, all).empty()) << useless.left(30).toStdString();
+        EXPECT_TRUE(actionsFromJson(useless, all).empty() && !saysNoChange(useless))
+            << useless.left(30).toStdString();
+    EXPECT_TRUE(saysNoChange(u"{\"actions\":[]}"_s) && saysNoChange(u"[]"_s));
 
     const auto conflict = [&](std::size_t earlier, std::size_t later) {
         return RuleConflict{.fileName = u"a"_s,

@@ -179,6 +179,26 @@ TEST_F(DobbinChatTest, answersFromTheLogAndOffersChangesWithEitherBackend) {
     EXPECT_FALSE(chat_->apply(turnID, 0)) << "once is enough";
 }
 
+TEST_F(DobbinChatTest, offersNoOrderThatTheAnswerArguesAgainst) {
+    tidyInvoices(1);
+    const QString against = u"Leave File late below Move pdf, for invoice0.pdf is a bill."_s;
+    const struct {
+        QString answer;
+        QString list;
+        std::size_t offered;
+    } rows[] = {
+        {against, uR"({"actions":[]})"_s, 0},
+        {against, u"no idea"_s, 1},
+        {u"Move pdf took invoice0.pdf, so File late never saw it."_s, {}, 1},
+        {u"File late never saw invoice0.pdf."_s, {}, 0},
+    };
+    for (const auto& row : rows) {
+        playLocal({row.answer, row.list});
+        EXPECT_THAT(ask(u"Why not invoice0.pdf?"_s).actions, SizeIs(row.offered))
+            << row.answer.toStdString() << row.list.toStdString();
+    }
+}
+
 TEST_F(DobbinChatTest, answersOneQuestionAfterTheOther) {
     std::vector<std::function<void()>> waiting;
     QStringList answered;
