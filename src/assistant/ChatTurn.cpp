@@ -9,7 +9,7 @@ namespace quillon {
 using namespace Qt::Literals::StringLiterals;
 
 QJsonObject toJson(const ChatTurn& turn) {
-    return {
+    QJsonObject object{
         {"id"_L1, uuidText(turn.id)},
         {"isUser"_L1, turn.isUser},
         {"text"_L1, turn.text},
@@ -18,6 +18,9 @@ QJsonObject toJson(const ChatTurn& turn) {
         {"isError"_L1, turn.isError},
         {"date"_L1, jsonDate(turn.date)},
     };
+    if (turn.wasShown)
+        object.insert("wasShown"_L1, true);
+    return object;
 }
 
 Expected<ChatTurn> chatTurnFromJson(const JsonReader& json, Timestamp now) {
@@ -32,6 +35,7 @@ Expected<ChatTurn> chatTurnFromJson(const JsonReader& json, Timestamp now) {
     fields.optionalList("actions"_L1, turn.actions, dobbinActionFromJson);
     fields.optional("isError"_L1, turn.isError);
     fields.optional("date"_L1, turn.date);
+    fields.optional("wasShown"_L1, turn.wasShown);
     return fields.result(std::move(turn));
 }
 

@@ -24,6 +24,8 @@ struct ChatTurn {
     std::vector<DobbinAction> actions = {}; ///< changes that are offered with an answer
     bool isError = false;                   ///< the text says why there is no answer
     Timestamp date = {};
+    /// Whoever asked has seen the answer, so that its changes may be meant by their numbers alone.
+    bool wasShown = false;
 
     bool operator==(const ChatTurn&) const = default;
 };

@@ -237,6 +237,15 @@ Expected<QString> DobbinChat::apply(const QUuid& turnID, std::size_t action) {
     return happened;
 }
 
+void DobbinChat::noteShown(const QUuid& turnID) {
+    const auto turn = std::ranges::find(turns_, turnID, &ChatTurn::id);
+    if (turn == turns_.end() || turn->actions.empty() || turn->wasShown)
+        return;
+    turn->wasShown = true;
+    save();
+    Q_EMIT turnsChanged();
+}
+
 /// At the end, unless there is a turn that it comes after.
 void DobbinChat::add(ChatTurn turn, const QUuid& after) {
     const auto before = std::ranges::find(turns_, after, &ChatTurn::id);

@@ -70,6 +70,9 @@ public:
     /// like quillon::apply. A rule to be written is marked and nothing else.
     [[nodiscard]] Expected<QString> apply(const QUuid& turnID, std::size_t action);
 
+    /// Keeps that whoever asked has seen an answer that offers changes.
+    void noteShown(const QUuid& turnID);
+
     /// Why the conversation could not be read or saved the last time; nothing once it could. The
     /// next turn tries again.
     [[nodiscard]] const std::optional<Error>& lastSaveError() const { return lastSaveError_; }

@@ -7,6 +7,7 @@
 #include "cli/ThinkingHint.h"
 #include "cli/Verbs.h"
 #include "service/LoopTask.h"
+#include "store/RuleEdits.h"
 
 #include <algorithm>
 
@@ -32,11 +33,34 @@ std::optional<ChatTurn> answerTo(const QString& question, const Console& console
     return came ? std::move(task->result) : std::nullopt;
 }
 
-QString commandFor(std::size_t number) {
-    return u"quillon ask --do "_s + QString::number(number);
+using Folders = std::vector<WatchedFolder>;
+
+QString commandFor(const ChatTurn& answer, std::size_t number) {
+    return u"quillon ask --do %1 --answer %2"_s.arg(QString::number(number), shortID(answer));
 }
 
-void writeAction(JsonStream& json, const DobbinAction& action, std::size_t number) {
+std::vector<Rule> rulesNow(const DobbinAction& action, const Folders& folders) {
+    const auto folder = std::ranges::find(folders, action.folderID, &WatchedFolder::id);
+    return folder == folders.end() ? std::vector<Rule>() : folder->rules;
+}
+
+/// What the label leaves out; empty where it says it all.
+QString detailOf(const DobbinAction& action, const Folders& folders) {
+    if (action.ruleID)
+        return u"in "_s + action.folderName;
+    if (!action.ruleOrder)
+        return {};
+    std::vector<Rule> rules = rulesNow(action, folders);
+    reorderRules(rules, *action.ruleOrder);
+    QStringList names;
+    for (const Rule& rule : rules)
+        names.append(u'“' + rule.name + u'”');
+    return names.join(u", "_s);
+}
+
+void writeAction(JsonStream& json, const ChatTurn& answer, std::size_t number,
+                 const Folders& folders) {
+    const DobbinAction& action = answer.actions[number - 1];
     json.beginObject().key("number").integer(std::int64_t(number));
     json.key("kind").text(rawValue(action.kind)).key("label").text(action.label());
     json.key("folderID").id(action.folderID).key("folderName").text(action.folderName);
@@ -48,14 +72,21 @@ void writeAction(JsonStream& json, const DobbinAction& action, std::size_t numbe
         json.key("ruleOrder").beginList();
         for (const QUuid& id : *action.ruleOrder)
             json.id(id);
+        json.endList().key("ruleNames").beginList();
+        const std::vector<Rule> rules = rulesNow(action, folders);
+        for (const QUuid& id : *action.ruleOrder) {
+            const Rule* const rule = findRule(rules, id);
+            json.text(rule ? rule->name : QString());
+        }
         json.endList();
     }
     if (action.description)
         json.key("description").text(*action.description);
-    json.key("command").text(commandFor(number)).endObject();
+    json.key("command").text(commandFor(answer, number)).endObject();
 }
 
-void printJson(const QString& question, const ChatTurn& answer, std::ostream& out) {
+void printJson(const QString& question, const ChatTurn& answer, const Folders& folders,
+               std::ostream& out) {
     JsonStream json;
     json.beginObject().key("question").text(question).key("answer").text(answer.text);
     json.key("isError").truth(answer.isError).key("date").isoDate(answer.date);
@@ -63,14 +94,13 @@ void printJson(const QString& question, const ChatTurn& answer, std::ostream& ou
     for (const LogEntry& entry : answer.entries)
         writeLogEntry(json, entry, DateForm::iso);
     json.endList().key("actions").beginList();
-    std::size_t number = 0;
-    for (const DobbinAction& action : answer.actions)
-        writeAction(json, action, ++number);
+    for (std::size_t number = 1; number <= answer.actions.size(); ++number)
+        writeAction(json, answer, number, folders);
     json.endList().endObject();
     finish(json, out);
 }
 
-void printText(const ChatTurn& answer, const Console& console) {
+void printText(const ChatTurn& answer, const Folders& folders, const Console& console) {
     LineBuffer lines(console.out, console.colored);
     for (const QString& line : answer.text.split(u'\n'))
         lines.add(line).endLine();
@@ -89,11 +119,14 @@ void printText(const ChatTurn& answer, const Console& console) {
         if (action.description)
             lines.add(u": "_s + *action.description);
         lines.endLine();
-        lines.add(u"   "_s + commandFor(number), LineBuffer::Style::faint).endLine();
+        if (const QString detail = detailOf(action, folders); !detail.isEmpty())
+            lines.add(u"   "_s + detail, LineBuffer::Style::faint).endLine();
+        lines.add(u"   "_s + commandFor(answer, number), LineBuffer::Style::faint).endLine();
     }
 }
 
-ExitCode askDobbin(const AskOptions& options, const Console& console, Services& services) {
+ExitCode askDobbin(const AskOptions& options, const StoreAccess& store, const Console& console,
+                   Services& services) {
     const QString question = QString::fromStdString(options.question);
     const auto answer = answerTo(question, console, services);
     if (!answer) {
@@ -102,10 +135,14 @@ ExitCode askDobbin(const AskOptions& options, const Console& console, Services& 
     }
     if (answer->isError)
         console.say(answer->text);
+    const auto folders = store.call([](AppStore& appStore) { return appStore.folders(); });
     if (options.json)
-        printJson(question, *answer, console.out);
+        printJson(question, *answer, folders, console.out);
     else if (!answer->isError)
-        printText(*answer, console);
+        printText(*answer, folders, console);
+    // A connection that was lost meanwhile is noticed by writing.
+    if (console.out.flush() && (!console.mayContinue || console.mayContinue()))
+        store.call([&](AppStore&) { services.chat().noteShown(answer->id); });
     return answer->isError ? ExitCode::someFailed : ExitCode::done;
 }
 
@@ -117,9 +154,8 @@ ExitCode askCommand(const AskOptions& options, const Console& console, Services&
         return store.error();
     if (const auto warning = store->call([&](AppStore&) { return services.chat().takeWarning(); }))
         console.say(*warning);
-    const ExitCode code =
-        options.number ? carryOutOffer(*options.number, options.json, *store, console, services)
-                       : askDobbin(options, console, services);
+    const ExitCode code = options.number ? carryOutOffer(options, *store, console, services)
+                                         : askDobbin(options, *store, console, services);
     const auto unsaved = store->call([&](AppStore&) { return services.chat().lastSaveError(); });
     if (!unsaved)
         return code;

@@ -43,7 +43,9 @@ Command defineAsk(CLI::App& parser) {
     const auto words = std::make_shared<std::vector<std::string>>();
     parser.add_option("QUESTION", *words, "What to ask, in your own words")->type_name("");
     addNumber(parser, "--do", options->number, "a change",
-              "Carry out change N of the newest answer that offers any");
+              "Carry out change N of an answer, the last one unless --answer is given");
+    parser.add_option("--answer", options->answer, "The answer that offers it, as it was shown")
+        ->type_name("ID");
     addJson(parser, options->json);
     parser.callback([options, words] {
         options->question = CLI::detail::join(*words, " ");
@@ -51,6 +53,8 @@ Command defineAsk(CLI::App& parser) {
         if (words->empty() != options->number.has_value() ||
             (question.isEmpty() && !words->empty()))
             throw CLI::ValidationError("Give either a question or --do N");
+        if (options->answer && !options->number)
+            throw CLI::ValidationError("--answer goes with --do N");
         if (question.size() > longestSentence)
             throw CLI::ValidationError("The question is too long; ask it in fewer words");
     });

@@ -12,7 +12,6 @@
 #include "store/Sentences.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace quillon {
 
@@ -22,25 +21,75 @@ namespace {
 
 using Kind = DobbinAction::Kind;
 
+constexpr qsizetype idLength = 8;
+
 struct Offer {
     QUuid turnID;
     std::size_t index = 0;
     DobbinAction action;
 };
 
-Chosen<Offer> offerMeant(std::size_t number, const std::vector<ChatTurn>& turns) {
-    for (const ChatTurn& turn : turns | std::views::reverse) {
-        const std::size_t offered = turn.actions.size();
-        if (offered == 0)
-            continue;
-        if (number > offered)
-            return refusal(ExitCode::usage,
-                           u"There is no change %1; Dobbin's answer offers %2"_s.arg(
-                               QString::number(number), counted(offered, u"change"_s)));
-        return Offer{turn.id, number - 1, turn.actions[number - 1]};
+/// The one whose id begins so.
+Chosen<ChatTurn> answerNamed(const QString& text, const std::vector<ChatTurn>& turns) {
+    if (text.size() < idLength)
+        return refusal(
+            ExitCode::usage,
+            u"“%1” is not the id of an answer; give all of it as it was shown"_s.arg(text));
+    const auto isMeant = [&](const ChatTurn& turn) {
+        return !turn.isUser && uuidText(turn.id).startsWith(text, Qt::CaseInsensitive);
+    };
+    const auto found = std::ranges::find_if(turns, isMeant);
+    if (found == turns.end())
+        return refusal(ExitCode::someFailed,
+                       u"The conversation has no answer %1; ask again to see what Dobbin "
+                       "offers"_s.arg(text));
+    if (std::find_if(found + 1, turns.end(), isMeant) != turns.end())
+        return refusal(ExitCode::usage,
+                       u"Several answers have an id that begins with %1; ask again to see what "
+                       "Dobbin offers"_s.arg(text));
+    return *found;
+}
+
+/// Whoever gives a number alone has the last answer before their eyes, or else means another one.
+Chosen<ChatTurn> lastAnswer(const std::vector<ChatTurn>& turns) {
+    if (turns.empty() || turns.back().isUser || turns.back().actions.empty())
+        return refusal(ExitCode::someFailed,
+                       u"The last thing said to Dobbin has no answer that offers a change; ask "
+                       "again, or name an earlier answer with --answer ID"_s);
+    if (!turns.back().wasShown)
+        return refusal(ExitCode::someFailed,
+                       u"Nobody has seen what Dobbin's last answer offers, for the command that "
+                       "asked was stopped; ask again to see it"_s);
+    return turns.back();
+}
+
+Chosen<Offer> offerMeant(const AskOptions& options, const std::vector<ChatTurn>& turns) {
+    const auto turn = options.answer ? answerNamed(QString::fromStdString(*options.answer), turns)
+                                     : lastAnswer(turns);
+    if (!turn)
+        return std::unexpected(turn.error());
+    const std::size_t number = options.number.value_or(0);
+    const std::size_t offered = turn->actions.size();
+    if (number == 0 || number > offered)
+        return refusal(ExitCode::usage,
+                       u"There is no change %1; Dobbin's answer offers %2"_s.arg(
+                           QString::number(number), counted(offered, u"change"_s)));
+    return Offer{turn->id, number - 1, turn->actions[number - 1]};
+}
+
+/// "Turn off “Old installers” in Downloads:"
+void announce(const DobbinAction& action, const Console& console) {
+    QString text = action.label();
+    if (action.ruleID)
+        text += u" in "_s + action.folderName;
+    text += u':';
+    if (action.description)
+        text += u' ' + *action.description;
+    {
+        LineBuffer lines(console.out, console.colored);
+        lines.add(text, LineBuffer::Style::strong).endLine();
     }
-    return refusal(ExitCode::someFailed,
-                   u"No answer of Dobbin's offers a change; ask him with: quillon ask QUESTION"_s);
+    console.out.flush();
 }
 
 ExitCode write(const DobbinAction& action, bool json, const StoreAccess& store,
@@ -100,13 +149,20 @@ ExitCode showState(const DobbinAction& action, const QString& happened, bool jso
 
 } // namespace
 
-ExitCode carryOutOffer(std::size_t number, bool json, const StoreAccess& store,
-                       const Console& console, Services& services) {
+QString shortID(const ChatTurn& answer) {
+    return uuidText(answer.id).left(idLength);
+}
+
+ExitCode carryOutOffer(const AskOptions& options, const StoreAccess& store, const Console& console,
+                       Services& services) {
+    const bool json = options.json;
     const auto turns = store.call([&](AppStore&) { return services.chat().turns(); });
-    const auto offer = offerMeant(number, turns);
+    const auto offer = offerMeant(options, turns);
     if (!offer)
         return sayRefusal(offer.error(), console);
     const DobbinAction& action = offer->action;
+    if (!json && !action.done)
+        announce(action, console);
     if (action.kind == Kind::writeRule)
         return write(action, json, store, console, services);
 

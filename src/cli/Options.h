@@ -162,6 +162,7 @@ struct ModelOptions {
 struct AskOptions {
     std::string question;
     std::optional<std::size_t> number; ///< of an offered change, from 1
+    std::optional<std::string> answer; ///< that offers it, by the beginning of its id
     bool json = false;
 };
 

@@ -16,6 +16,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
 using ::testing::Not;
+using ::testing::StartsWith;
 
 const QString writtenRule =
     uR"({"name":"File bills","matchMode":"all","conditions":[{"attribute":"Name",)"
@@ -57,6 +58,10 @@ protected:
                 {u"ruleOrder"_s, QJsonArray{u"Invoices"_s, u"Old"_s}},
                 {u"description"_s, description}};
     }
+    /// Of the answer that was shown.
+    static QString idIn(const std::string& out) {
+        return QString::fromStdString(out.substr(out.rfind("--answer ") + 9, 8));
+    }
     CommandBench::Result change(const char* number, bool json = false) {
         std::vector<std::string> arguments{"ask", "--do", number};
         if (json)
@@ -80,13 +85,16 @@ TEST_F(AskVerb, answersWithEntriesAndChangesThatCanBeCarriedOut) {
                              "[0-9A-F]{8}  [-0-9]+ [0-9:]+  invoice.pdf  moved to Old  \\(Old\\)\n"
                              "          /.*/Old/invoice.pdf\n"
                              "Put back with: quillon undo [0-9A-F]{8}\n\n"
-                             "1. Reorder rules in in\n   quillon ask --do 1\n\n"
-                             "2. Turn off “Old”\n   quillon ask --do 2\n"));
+                             "1. Reorder rules in in\n   “Invoices”, “Old”\n"
+                             "   quillon ask --do 1 --answer [0-9A-F]{8}\n\n"
+                             "2. Turn off “Old”\n   in in\n"
+                             "   quillon ask --do 2 --answer [0-9A-F]{8}\n"));
     mustRun({"undo", asked.out.substr(asked.out.find("undo ") + 5, 8)});
 
     const auto reordered = change("1");
     EXPECT_EQ(reordered.code, ExitCode::done) << reordered.err;
-    EXPECT_THAT(reordered.out, HasSubstr("in their new order.\n\n1  Invoices\n"));
+    EXPECT_THAT(reordered.out, AllOf(StartsWith("Reorder rules in in:\nThe rules of in are"),
+                                     HasSubstr("in their new order.\n\n1  Invoices\n")));
     const auto off = QJsonDocument::fromJson(QByteArray::fromStdString(change("2", true).out));
     EXPECT_EQ(off[1][u"name"].toString(), u"Old");
     EXPECT_FALSE(off[1][u"isEnabled"].toBool(true));
@@ -117,7 +125,8 @@ TEST_F(AskVerb, runsFoldersWritesRulesAndKnowsWhatHasGone) {
     EXPECT_EQ(json[u"question"].toString(), u"What now with the pdf?");
     EXPECT_FALSE(json[u"isError"].toBool(true));
     EXPECT_EQ(json[u"actions"][0][u"label"].toString(), u"Run in now");
-    EXPECT_EQ(json[u"actions"][1][u"command"].toString(), u"quillon ask --do 2");
+    EXPECT_EQ(json[u"actions"][1][u"command"].toString(),
+              u"quillon ask --do 2 --answer "_s + idIn(asked.out));
     bench_.write("in/other.pdf", "paid");
     EXPECT_THAT(change("1").out, HasSubstr("other.pdf  moved to Old\n\nin: tidied 1 file.\n"));
 
@@ -139,6 +148,41 @@ TEST_F(AskVerb, runsFoldersWritesRulesAndKnowsWhatHasGone) {
     EXPECT_THAT(change("2").err, HasSubstr("“in” is no longer watched"));
 }
 
+TEST_F(AskVerb, carriesOutNothingThatNobodyHasSeen) {
+    play(u"Move Invoices above Old."_s, {change(u"reorderRules"_s)});
+    const auto asked = QByteArray::fromStdString(bench_.run({"ask", "--json", "Why Old?"}).out);
+    const auto offered = QJsonDocument::fromJson(asked)[u"actions"][0];
+    EXPECT_EQ(offered[u"ruleNames"].toArray(), (QJsonArray{u"Invoices"_s, u"Old"_s}));
+    const std::string first = idIn(asked.toStdString()).toStdString();
+    play(u"Turn off Old."_s, {change(u"turnOffRule"_s, u"Old"_s)});
+    const std::string second = idIn(bench_.run({"ask", "And now?"}).out).toStdString();
+    const std::string chat = "data/Quillon/dobbin-chat.json";
+    std::ifstream file(bench_.at(chat));
+    std::string kept(std::istreambuf_iterator<char>(file), {});
+    const std::string mark = R"(,"wasShown":true)";
+    ASSERT_NE(kept.rfind(mark), std::string::npos);
+    bench_.write(chat, kept.erase(kept.rfind(mark), mark.size()));
+
+    const auto refused = [&](const std::vector<std::string>& more, const char* said) {
+        std::vector<std::string> arguments{"ask", "--do", "1"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        const auto result = bench_.run(arguments);
+        EXPECT_NE(result.code, ExitCode::done);
+        EXPECT_THAT(result.err, HasSubstr(said));
+        EXPECT_THAT(result.out, IsEmpty());
+    };
+    refused({}, "Nobody has seen what Dobbin's last answer offers");
+    mustRun({"ask", "What can you do?"});
+    refused({}, "no answer that offers a change; ask again");
+    refused({"--answer", ""}, "“” is not the id of an answer");
+    refused({"--answer", second.substr(0, 7)}, "is not the id of an answer");
+    refused({"--answer", "0000000G"}, "The conversation has no answer 0000000G; ask again");
+    EXPECT_THAT(bench_.run({"ask", "--do", "1", "--answer", first}).out,
+                StartsWith("Reorder rules in in:\n"));
+    EXPECT_THAT(bench_.run({"ask", "--do", "1", "--answer", second}).out,
+                StartsWith("Turn off “Old” in in:\n“Old” is now off.\n"));
+}
+
 TEST_F(AskVerb, saysWhatIsMissingAndStillHelps) {
     server_.haveModels({});
     const std::string longQuestion(4001, 'x');
@@ -150,7 +194,8 @@ TEST_F(AskVerb, saysWhatIsMissingAndStillHelps) {
         {{"ask", "where?"}, ExitCode::someFailed, "Run “quillon model pull” to download one.\n"},
         {{"ask", "--json", "where?"}, ExitCode::someFailed, R"("isError":true)"},
         {{"ask", "What can you do?"}, ExitCode::done, "Ask me in plain English and I can:\n\n•"},
-        {{"ask", "--do", "1"}, ExitCode::someFailed, "No answer of Dobbin's offers a change"},
+        {{"ask", "--do", "1"}, ExitCode::someFailed, "no answer that offers a change; ask again"},
+        {{"ask", "where?", "--answer", "12345678"}, ExitCode::usage, "--answer goes with --do N"},
         {{"ask"}, ExitCode::usage, "Give either a question or --do N"},
         {{"ask", " \n "}, ExitCode::usage, "Give either a question or --do N"},
         {{"ask", "where?", "--do", "1"}, ExitCode::usage, "Give either a question or --do N"},
