@@ -224,16 +224,24 @@ DobbinChat::suggestedChanges(std::shared_ptr<Material> material, ChatTurn answer
 }
 
 Expected<QString> DobbinChat::apply(const QUuid& turnID, std::size_t action) {
-    const auto turn = std::ranges::find(turns_, turnID, &ChatTurn::id);
-    if (turn == turns_.end() || action >= turn->actions.size())
+    const auto find = [&] {
+        const auto turn = std::ranges::find(turns_, turnID, &ChatTurn::id);
+        return turn == turns_.end() || action >= turn->actions.size() ? nullptr
+                                                                      : &turn->actions[action];
+    };
+    const DobbinAction* const change = find();
+    if (!change)
         return failure(ErrorKind::notFound, u"This change is not in the conversation any more"_s);
-    DobbinAction& change = turn->actions[action];
-    Expected<QString> happened = quillon::apply(change, around_.store);
+    const DobbinAction wanted = *change;
+    Expected<QString> happened = quillon::apply(wanted, around_.store);
     if (!happened)
         return happened;
-    change.done = true;
-    save();
-    Q_EMIT turnsChanged();
+    // Whoever heard of it from the store may have asked something since.
+    if (DobbinAction* const done = find()) {
+        done->done = true;
+        save();
+        Q_EMIT turnsChanged();
+    }
     return happened;
 }
 
