@@ -32,8 +32,13 @@ struct DesktopNotifier::State {
         if (!thread)
             return;
         thread->quit();
-        if (thread->wait(patienceMs))
+        if (thread->wait(patienceMs)) {
             delete thread;
+            return;
+        }
+        QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+        if (thread->isFinished()) // before we connected
+            thread->deleteLater();
     }
     State(const State&) = delete;
     State& operator=(const State&) = delete;
