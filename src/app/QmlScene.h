@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ui/AppModel.h"
+
+#include <QQmlEngine>
+#include <QQuickWindow>
+
+#include <memory>
+
+namespace quillon {
+
+/// The engine that shows Quillon's windows, with the model in it as `App`. The model is borrowed and
+/// outlives it.
+[[nodiscard]] std::unique_ptr<QQmlEngine> makeQmlEngine(AppModel& model);
+
+/// A window of the module "Quillon", such as "MainWindow", not yet shown. A mistake in the QML ends
+/// the process: nothing that the user did or has can cause one.
+[[nodiscard]] std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& type);
+
+} // namespace quillon

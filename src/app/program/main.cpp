@@ -1,0 +1,5 @@
+#include "app/DesktopApplication.h"
+
+int main(int argc, char** argv) {
+    return quillon::runDesktopApplication(argc, argv);
+}

@@ -1,0 +1,7 @@
+#include "ui/history/HistoryModel.h"
+
+namespace quillon {
+
+HistoryModel::HistoryModel(AppStore& store, QObject* parent) : QObject(parent), store_(store) {}
+
+} // namespace quillon

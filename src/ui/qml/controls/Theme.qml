@@ -1,0 +1,7 @@
+pragma Singleton
+
+import QtQuick
+
+QtObject {
+    readonly property color bg: "#FAFAF8"
+}

@@ -1,0 +1,6 @@
+import QtQuick
+import Quillon
+
+Rectangle {
+    color: Theme.bg
+}
