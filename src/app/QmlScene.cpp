@@ -1,5 +1,7 @@
 #include "app/QmlScene.h"
 
+#include "ui/DesktopLook.h"
+
 #include <QQmlComponent>
 #include <QQmlContext>
 
@@ -7,9 +9,11 @@ namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
 
-std::unique_ptr<QQmlEngine> makeQmlEngine(AppModel& model) {
+std::unique_ptr<QQmlEngine> makeQmlEngine(AppModel& model, DesktopAppearance* appearance) {
     auto engine = std::make_unique<QQmlEngine>();
     engine->addImportPath(u"qrc:/"_s);
+    engine->rootContext()->setContextProperty(u"Desktop"_s,
+                                              new DesktopLook(appearance, engine.get()));
     engine->rootContext()->setContextProperty(u"App"_s, &model);
     return engine;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/DesktopAppearance.h"
 #include "ui/AppModel.h"
 
 #include <QQmlEngine>
@@ -9,9 +10,10 @@
 
 namespace quillon {
 
-/// The engine that shows Quillon's windows, with the model in it as `App`. The model is borrowed and
-/// outlives it.
-[[nodiscard]] std::unique_ptr<QQmlEngine> makeQmlEngine(AppModel& model);
+/// The engine that shows Quillon's windows, with the model in it as `App` and the desktop's look as
+/// `Desktop`. The model and the appearance, if there is one, are borrowed and outlive it.
+[[nodiscard]] std::unique_ptr<QQmlEngine> makeQmlEngine(AppModel& model,
+                                                        DesktopAppearance* appearance = nullptr);
 
 /// A window of the module "Quillon", such as "MainWindow", not yet shown. A mistake in the QML ends
 /// the process: nothing that the user did or has can cause one.
