@@ -214,6 +214,14 @@ AIManager& Services::assistant() {
     return assistant_->manager;
 }
 
+Background& Services::background() {
+    return store_->background;
+}
+
+Timers& Services::timers() {
+    return store_->timers;
+}
+
 FolderSuggestions& Services::suggestions() {
     if (!store_->suggestions)
         store_->suggestions = std::make_unique<FolderSuggestions>(

@@ -2,8 +2,10 @@
 
 #include "engine/EngineSettings.h"
 #include "engine/RuleEngine.h"
+#include "platform/Background.h"
 #include "platform/Platform.h"
 #include "platform/Settings.h"
+#include "platform/Timers.h"
 #include "service/StoreAccess.h"
 #include "service/StoreSnapshot.h"
 #include "store/StoreSession.h"
@@ -50,6 +52,11 @@ public:
     /// The assistant's settings, key and models; made when it is first asked for, and there until
     /// these services go.
     [[nodiscard]] AIManager& assistant();
+
+    /// Threads and timers of the event loop, which are there until the store is let go. The store
+    /// must be open.
+    [[nodiscard]] Background& background();
+    [[nodiscard]] Timers& timers();
 
     /// The conversation with the assistant; made when it is first asked for, and there until the
     /// store is let go. The store must be open.
