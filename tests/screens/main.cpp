@@ -1,14 +1,20 @@
-#include "SampleHome.h"
-
-#include "app/QmlScene.h"
+#include "SampleModel.h"
+#include "Scene.h"
 #include "service/Services.h"
-#include "support/FakeDesktop.h"
+#include "store/SettingsTable.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFont>
+#include <QPalette>
 #include <QTimer>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <linux/capability.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using namespace quillon;
 using namespace quillon::testing;
@@ -16,48 +22,55 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Scene {
-    QString name;
-    QString window = u"MainWindow"_s;
-    std::function<void(AppModel&, QQuickWindow&)> arrange = [](AppModel&, QQuickWindow&) {};
-};
-
-/// Add a scene here for every screen and state worth a look.
 std::vector<Scene> scenes() {
-    return {{.name = u"main"_s}};
+    std::vector<Scene> all;
+    for (const auto& some :
+         {mainScenes, editorScenes, reviewScenes, historyScenes, dobbinScenes, controlsScenes})
+        for (const Scene& scene : some())
+            all.push_back(scene);
+    return all;
 }
 
-} // namespace
+/// A folder that nobody may read can be read by root, unless root does without that.
+void letPermissionsCount() {
+    __user_cap_header_struct header{.version = _LINUX_CAPABILITY_VERSION_3, .pid = 0};
+    std::array<__user_cap_data_struct, 2> data{};
+    if (::syscall(SYS_capget, &header, data.data()) != 0)
+        return;
+    data[0].effective &= ~(1U << CAP_DAC_OVERRIDE | 1U << CAP_DAC_READ_SEARCH);
+    ::syscall(SYS_capset, &header, data.data());
+}
 
-/// screens SCENE FILE.png [--dark] [--size 1040x700]: a picture of one screen over a made-up home.
-/// The scale is QT_SCALE_FACTOR.
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", qgetenv("QUILLON_SCREEN_PLATFORM").isEmpty() ? "offscreen" : "xcb");
-    qputenv("QT_QUICK_BACKEND", "software");
-    QApplication application(argc, argv);
-    QCommandLineParser parser;
-    parser.addPositionalArgument(u"scene"_s, u"which, or \"list\""_s);
-    parser.addPositionalArgument(u"file"_s, u"where to"_s);
-    parser.addOption({u"dark"_s, u"in the dark"_s});
-    parser.addOption({u"size"_s, u"of the window"_s, u"WxH"_s});
-    parser.process(application);
-    const QStringList words = parser.positionalArguments();
-    if (words.value(0) == u"list") {
-        for (const Scene& scene : scenes())
-            std::printf("%s\n", qUtf8Printable(scene.name));
-        return 0;
-    }
-    if (parser.isSet(u"dark"_s)) {
-        QPalette dark(QColor(0x2b, 0x2d, 0x30));
-        application.setPalette(dark);
-    }
-    const SampleHome home;
+/// The sample home is the home; what is cached for the real one stays of use.
+void moveInto(const SampleHome& home) {
+    if (qEnvironmentVariableIsEmpty("XDG_CACHE_HOME"))
+        qputenv("XDG_CACHE_HOME", qgetenv("HOME") + "/.cache");
+    qputenv("HOME", QByteArray::fromStdString(home.home()));
+    for (const char* name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+        qunsetenv(name);
+}
+
+void choose(Services& services, const QString& key, const QString& value) {
+    if (const auto chosen = setSetting(services.settings(), *findSetting(key), value); !chosen)
+        qFatal("%s", qUtf8Printable(chosen.error().message));
+}
+
+/// "960x640".
+QSize sizeFrom(const QString& text) {
+    const QStringList size = text.split(u'x');
+    return size.size() == 2 ? QSize(size[0].toInt(), size[1].toInt()) : QSize();
+}
+
+int takePicture(QApplication& application, const Scene& scene, SampleHome& home, const QSize& size,
+                const QString& file) {
+    ModelServer server;
+    playSampleModel(server);
     Services services(home.folders());
+    choose(services, u"ai.localHost"_s, server.host());
+    choose(services, u"hasOnboarded"_s, scene.isFirstRun ? u"false"_s : u"true"_s);
     const auto store = services.startInstance();
-    if (!store) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(store.error().message));
-        return 1;
-    }
+    if (!store)
+        qFatal("%s", qUtf8Printable(store.error().message));
     FakeDesktop desktop;
     AppModel model({.store = **store,
                     .services = services,
@@ -65,21 +78,63 @@ int main(int argc, char** argv) {
                     .fileManager = desktop,
                     .loginItem = desktop});
     const auto engine = makeQmlEngine(model);
-    for (const Scene& scene : scenes()) {
-        if (scene.name != words.value(0))
-            continue;
-        const auto window = makeWindow(*engine, scene.window);
-        const QStringList size = parser.value(u"size"_s).split(u'x');
-        if (size.size() == 2)
-            window->resize(size[0].toInt(), size[1].toInt());
-        window->show();
-        scene.arrange(model, *window);
-        // Long enough for what comes from the background and for every animation.
-        QTimer::singleShot(1200, &application, [&] {
-            application.exit(window->grabWindow().save(words.value(1)) ? 0 : 1);
-        });
-        return application.exec();
+    const auto window = makeWindow(*engine, scene.window);
+    if (size.isValid())
+        window->resize(size);
+    window->show();
+    Stage stage{model, *window, **store, services, home, desktop, server};
+    scene.arrange(stage);
+    QTimer::singleShot(scene.settling, &application,
+                       [&] { application.exit(window->grabWindow().save(file) ? 0 : 1); });
+    return application.exec();
+}
+
+} // namespace
+
+/// A picture of one screen over a made-up home. The scale is QT_SCALE_FACTOR.
+int main(int argc, char** argv) {
+    letPermissionsCount();
+    qputenv("QT_QPA_PLATFORM", qgetenv("QUILLON_SCREEN_PLATFORM").isEmpty() ? "offscreen" : "xcb");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QCommandLineParser parser;
+    parser.addPositionalArgument(u"scene"_s, u"which, or \"list\""_s);
+    parser.addPositionalArgument(u"file"_s, u"where to"_s);
+    parser.addOptions({{u"dark"_s, u"in the dark"_s},
+                       {u"rtl"_s, u"from right to left"_s},
+                       {u"size"_s, u"of the window"_s, u"WxH"_s},
+                       {u"font-size"_s, u"of the desktop's font"_s, u"points"_s}});
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    if (!parser.parse(words)) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(parser.errorText()));
+        return 2;
     }
-    std::fprintf(stderr, "No scene of that name.\n");
-    return 2;
+    const QStringList named = parser.positionalArguments();
+    const std::vector<Scene> all = scenes();
+    if (named.value(0) == u"list") {
+        for (const Scene& scene : all)
+            std::printf("%s\n", qUtf8Printable(scene.name));
+        return 0;
+    }
+    const auto scene = std::ranges::find(all, named.value(0), &Scene::name);
+    if (scene == all.end() || named.size() != 2) {
+        std::fprintf(stderr, "usage: screens list | SCENE FILE.png [--dark] [--rtl] [--size WxH] "
+                             "[--font-size POINTS]\n");
+        return 2;
+    }
+    SampleHome home(scene->home);
+    moveInto(home);
+    QApplication application(argc, argv);
+    if (parser.isSet(u"dark"_s))
+        QApplication::setPalette(QPalette(QColor(0x2b, 0x2d, 0x30)));
+    if (parser.isSet(u"rtl"_s))
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    if (parser.isSet(u"font-size"_s)) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(parser.value(u"font-size"_s).toDouble());
+        QApplication::setFont(font);
+    }
+    return takePicture(application, *scene, home, sizeFrom(parser.value(u"size"_s)),
+                       named.value(1));
 }
