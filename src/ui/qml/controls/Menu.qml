@@ -1,0 +1,37 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// Items are `MenuItem`, `MenuDivider` and further menus; open it with popup() or open().
+T.Menu {
+    id: menu
+
+    property string iconName
+
+    implicitWidth: Math.max(200, contentWidthOfItems + leftPadding + rightPadding)
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    margins: 12
+    padding: 5
+    overlap: 5
+    cascade: true
+
+    readonly property real contentWidthOfItems: {
+        let most = 0;
+        for (let index = 0; index < count; ++index)
+            most = Math.max(most, itemAt(index).implicitWidth);
+        return most;
+    }
+
+    delegate: MenuItem {}
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: menu.contentModel
+        interactive: Window.window ? contentHeight + menu.topPadding + menu.bottomPadding > Window.window.height : false
+        clip: interactive
+        currentIndex: menu.currentIndex
+        boundsBehavior: Flickable.StopAtBounds
+    }
+
+    background: MenuSurface {}
+    enter: MenuEnter {}
+}

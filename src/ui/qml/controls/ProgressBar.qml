@@ -1,0 +1,41 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// How far something has come. Words stand beside it.
+T.ProgressBar {
+    id: control
+
+    property string label
+
+    implicitWidth: 200
+    implicitHeight: 4
+
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: label
+    Accessible.description: indeterminate ? "" : qsTr("%1 %").arg(Math.round(position * 100))
+
+    background: Rectangle {
+        radius: 2
+        color: Theme.hover
+    }
+
+    contentItem: Item {
+        Rectangle {
+            id: done
+            width: control.indeterminate ? parent.width / 4 : Math.max(parent.height, control.position * parent.width)
+            height: parent.height
+            x: control.mirrored ? parent.width - width : 0
+            radius: 2
+            color: Theme.accent
+            visible: control.indeterminate || control.position > 0
+
+            Behavior on width {
+                enabled: !control.indeterminate
+                NumberAnimation {
+                    duration: Theme.base
+                    easing.type: Easing.OutCubic
+                }
+            }
+        }
+    }
+}
