@@ -1,20 +1,100 @@
 #pragma once
 
+#include "platform/Background.h"
+#include "platform/Clock.h"
 #include "store/AppStore.h"
+#include "ui/KeyedRows.h"
+#include "ui/Sheets.h"
+#include "ui/Toasts.h"
+#include "ui/history/HistoryLayout.h"
 
-#include <QObject>
+#include <QVariantMap>
+
+#include <atomic>
+#include <memory>
 
 namespace quillon {
 
-/// The whole activity log by day and batch, searched and filtered.
-class HistoryModel final : public QObject {
+/// The whole activity log by day and batch, searched and filtered. Holds rows while its sheet is
+/// open.
+class HistoryModel final : public KeyedRows<HistoryRow> {
     Q_OBJECT
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
+    Q_PROPERTY(QStringList folderNames READ folderNames NOTIFY changed)
+    Q_PROPERTY(int folderIndex READ folderIndex WRITE setFolderIndex NOTIFY changed)
+    Q_PROPERTY(int outcome READ outcome WRITE setOutcome NOTIFY filterChanged)
+    Q_PROPERTY(QString errorCount READ errorCount NOTIFY changed)
+    Q_PROPERTY(QVariantMap days READ days NOTIFY changed)
+    Q_PROPERTY(bool isLogEmpty READ isLogEmpty NOTIFY changed)
 
 public:
-    explicit HistoryModel(AppStore& store, QObject* parent = nullptr);
+    /// All borrowed for the model's life.
+    struct Surroundings {
+        AppStore& store;
+        const Clock& clock;
+        Background& background;
+        Sheets& sheets;
+        Toasts& toasts;
+    };
+
+    explicit HistoryModel(const Surroundings& around, QObject* parent = nullptr);
+    ~HistoryModel() override;
+
+    /// Opens the sheet with that folder's entries, or with all of them.
+    Q_INVOKABLE void open(const QString& folderID = {});
+    /// The same with what went wrong.
+    Q_INVOKABLE void openErrors(const QString& folderID = {});
+
+    [[nodiscard]] QString searchText() const { return filter_.words; }
+    void setSearchText(const QString& words);
+    /// "All folders" and then every watched folder.
+    [[nodiscard]] QStringList folderNames() const;
+    [[nodiscard]] int folderIndex() const;
+    void setFolderIndex(int index);
+    /// Everything, changes, errors.
+    [[nodiscard]] int outcome() const { return int(filter_.outcome); }
+    void setOutcome(int outcome);
+    Q_INVOKABLE void clearFilter();
+
+    /// Empty when there are none.
+    [[nodiscard]] QString errorCount() const { return errorCount_; }
+    /// The heading and the count of each day, by the rows' `day`.
+    [[nodiscard]] const QVariantMap& days() const { return days_; }
+    [[nodiscard]] bool isLogEmpty() const { return around_.store.recentLogs().empty(); }
+
+    /// Of a batch's row.
+    Q_INVOKABLE void setOpen(const QString& key, bool open);
+    Q_INVOKABLE void undoBatch(const QString& key);
+    /// What has been taken back by then stays so.
+    Q_INVOKABLE void stopUndo(const QString& key);
+
+    /// The id of the newest entry among the rows that can be undone by itself; empty without one.
+    Q_INVOKABLE QString newestUndoable() const;
+
+Q_SIGNALS:
+    void changed();
+    void filterChanged();
 
 private:
-    AppStore& store_;
+    struct Undoing {
+        UndoProgress progress;
+        std::shared_ptr<std::atomic<bool>> mayContinue;
+    };
+
+    void show(HistoryFilter filter);
+    void setFilter(HistoryFilter filter);
+    void refresh();
+    [[nodiscard]] std::optional<QUuid> batchOf(const QString& key) const;
+    void undoProgressed(const QUuid& batchID, UndoProgress progress);
+    void undoEnded(const QUuid& batchID, const AppStore::UndoReport& report);
+
+    Surroundings around_;
+    bool isShown_ = false;
+    HistoryFilter filter_;
+    QSet<QUuid> turnedBatches_;
+    QHash<QUuid, Undoing> undoing_;
+    QVariantMap days_;
+    QString errorCount_;
 };
 
 } // namespace quillon
