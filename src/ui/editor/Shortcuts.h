@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/Platform.h"
+
+#include <QStringList>
+
+namespace quillon {
+
+/// The shortcuts that an action can run: the programs in the folder for them. Looks at the disk.
+[[nodiscard]] QStringList shortcutNames(const Platform& platform);
+
+} // namespace quillon
