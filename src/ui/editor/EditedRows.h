@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace quillon {
@@ -10,9 +10,9 @@ namespace quillon {
 /// Takes one element out and puts it where it is then the one at `to`.
 template <typename T>
 void moveElement(std::vector<T>& list, int from, int to) {
-    const auto first = list.begin() + std::min(from, to);
-    const auto last = list.begin() + std::max(from, to) + 1;
-    std::rotate(first, from < to ? first + 1 : last - 1, last);
+    T element = std::move(list[std::size_t(from)]);
+    list.erase(list.begin() + from);
+    list.insert(list.begin() + to, std::move(element));
 }
 
 /// What each of the values is called.
