@@ -47,7 +47,7 @@ AppModel::AppModel(const Surroundings& around, QObject* parent)
                 .background = around.services.background(),
                 .sheets = sheets_,
                 .toasts = toasts_})
-    , popover_(around.store)
+    , popover_(around.store, around.services.platform().clock, around.services.timers())
     , chat_(around.store)
     , settings_(around.store)
     , onboarding_(around.store) {}

@@ -94,6 +94,17 @@ void HistoryModel::setFilter(HistoryFilter filter) {
     Q_EMIT filterChanged();
 }
 
+QString HistoryModel::errorsLabel() const {
+    return errorCount_ == 0 ? tr("Errors")
+                            : tr("Errors %1", "followed by their number").arg(errorCount_);
+}
+
+int HistoryModel::headOf(int row) const {
+    while (row > 0 && row < rowCount() && rows()[std::size_t(row)].isInBatch)
+        --row;
+    return row;
+}
+
 void HistoryModel::setOpen(const QString& key, bool open) {
     const HistoryRow* const head = row(key);
     const auto batchID = batchOf(key);
@@ -180,7 +191,7 @@ void HistoryModel::refresh() {
     days_.clear();
     for (const HistoryDay& day : layout.days)
         days_.insert(day.day, QVariantMap{{u"heading"_s, day.heading}, {u"count"_s, day.count}});
-    errorCount_ = layout.errorCount > 0 ? QString::number(layout.errorCount) : QString();
+    errorCount_ = layout.errorCount;
     Q_EMIT changed();
     setRows(layout.rows);
 }

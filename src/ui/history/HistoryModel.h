@@ -23,7 +23,7 @@ class HistoryModel final : public KeyedRows<HistoryRow> {
     Q_PROPERTY(QStringList folderNames READ folderNames NOTIFY changed)
     Q_PROPERTY(int folderIndex READ folderIndex WRITE setFolderIndex NOTIFY changed)
     Q_PROPERTY(int outcome READ outcome WRITE setOutcome NOTIFY filterChanged)
-    Q_PROPERTY(QString errorCount READ errorCount NOTIFY changed)
+    Q_PROPERTY(QString errorsLabel READ errorsLabel NOTIFY changed)
     Q_PROPERTY(QVariantMap days READ days NOTIFY changed)
     Q_PROPERTY(bool isLogEmpty READ isLogEmpty NOTIFY changed)
 
@@ -56,14 +56,16 @@ public:
     void setOutcome(int outcome);
     Q_INVOKABLE void clearFilter();
 
-    /// Empty when there are none.
-    [[nodiscard]] QString errorCount() const { return errorCount_; }
+    /// "Errors", with how many there are.
+    [[nodiscard]] QString errorsLabel() const;
     /// The heading and the count of each day, by the rows' `day`.
     [[nodiscard]] const QVariantMap& days() const { return days_; }
     [[nodiscard]] bool isLogEmpty() const { return around_.store.recentLogs().empty(); }
 
     /// Of a batch's row.
     Q_INVOKABLE void setOpen(const QString& key, bool open);
+    /// The row of the batch that a row is in; the row itself when it is in none.
+    Q_INVOKABLE int headOf(int row) const;
     Q_INVOKABLE void undoBatch(const QString& key);
     /// What has been taken back by then stays so.
     Q_INVOKABLE void stopUndo(const QString& key);
@@ -94,7 +96,7 @@ private:
     QSet<QUuid> turnedBatches_;
     QHash<QUuid, Undoing> undoing_;
     QVariantMap days_;
-    QString errorCount_;
+    std::size_t errorCount_ = 0;
 };
 
 } // namespace quillon
