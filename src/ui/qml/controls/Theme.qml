@@ -30,11 +30,11 @@ QtObject {
     readonly property color accent: isDark ? "#55BCC5" : "#0E6A72"
     readonly property color accentHover: isDark ? "#6BCAD2" : "#0B5A61"
     readonly property color accentPressed: isDark ? "#45A7B0" : "#094B51"
-    readonly property color onAccent: isDark ? "#06282B" : "#FFFFFF"
+    readonly property alias onAccent: inks.accent
     readonly property color accentSoft: isHighContrast ? card : isDark ? "#17393C" : "#DCECEC"
     readonly property color accentOnSoft: isDark ? "#9ADDE2" : "#0B5258"
     readonly property color dobbin: isDark ? "#E3B186" : "#8F5427"
-    readonly property color onDobbin: isDark ? "#2B1A0C" : "#FFFFFF"
+    readonly property alias onDobbin: inks.dobbin
     readonly property color dobbinSoft: isHighContrast ? card : isDark ? "#30271F" : "#F8EFE6"
     readonly property color dobbinLine: isDark ? "#4A3A2C" : "#E9D7C5"
     readonly property color warn: isDark ? "#F0C674" : "#7A4F00"
@@ -43,13 +43,13 @@ QtObject {
     readonly property color warnLine: isDark ? "#51421F" : "#EFDDB2"
     readonly property color error: isDark ? "#F5A59E" : "#A8261F"
     readonly property color errorFill: isDark ? "#E8685E" : "#C4362E"
-    readonly property color onError: isDark ? "#2B0A08" : "#FFFFFF"
+    readonly property alias onError: inks.error
     readonly property color errorSoft: isHighContrast ? card : isDark ? "#3A2220" : "#FCEBE9"
     readonly property color errorLine: isDark ? "#5A322E" : "#F2CFCB"
     readonly property color ok: isDark ? "#8FD3A3" : "#22683A"
     readonly property color okSoft: isHighContrast ? card : isDark ? "#1C3324" : "#E4F2E8"
     readonly property color toast: isDark ? "#3A3F43" : "#2A2D30"
-    readonly property color onToast: "#FFFFFF"
+    readonly property alias onToast: inks.toast
     readonly property color toastLink: isDark ? "#9ADDE2" : "#8FD6DC"
     readonly property color switchOff: isDark ? "#5D6468" : "#8D9196"
     readonly property color knobOn: isDark ? "#0B2123" : "#FFFFFF"
@@ -61,10 +61,21 @@ QtObject {
     /// The line around the whole window.
     readonly property color windowOutline: isHighContrast ? text2 : isDark ? "#17FFFFFF" : "#1F1C1E20"
 
+    /// What is written on the fills of those names. An object of its own, for QML takes what it is told
+    /// of "onAccent" for a signal's handler.
+    readonly property QtObject inksOnFills: QtObject {
+        id: inks
+        readonly property color accent: theme.isDark ? "#06282B" : "#FFFFFF"
+        readonly property color dobbin: theme.isDark ? "#2B1A0C" : "#FFFFFF"
+        readonly property color error: theme.isDark ? "#2B0A08" : "#FFFFFF"
+        readonly property color toast: "#FFFFFF"
+        readonly property color tint: "#FFFFFF"
+    }
+
     readonly property var tints: isDark ? ["#4C86D2", "#2A928F", "#67933F", "#B27F1A", "#C96A43", "#C9587B", "#906CC8", "#73808C"]
                                         : ["#2F6DBE", "#127A78", "#4D7A31", "#9A6700", "#B4512B", "#B33E63", "#7651B0", "#56626E"]
     readonly property int tintCount: tints.length
-    readonly property color onTint: "#FFFFFF"
+    readonly property alias onTint: inks.tint
     /// Of a kind of file: text and fill, light and dark.
     readonly property var kinds: ({
         "image": ["#6A45A6", "#F0E9F8", "#C3A6EE", "#322A40"],

@@ -20,23 +20,21 @@ T.ToolTip {
     contentItem: Row {
         spacing: 7
 
-        Label {
+        Words {
             width: Math.min(implicitWidth, 302 - (hint.visible ? hint.width + 7 : 0))
             text: tip.text
             style: Theme.caption
             color: Theme.onToast
             wrapMode: Text.Wrap
-            showsTip: false
         }
 
-        Label {
+        Words {
             id: hint
             visible: text !== ""
             text: tip.shortcutText
             style: Theme.caption
             color: Theme.onToast
             opacity: 0.7
-            showsTip: false
         }
     }
 
