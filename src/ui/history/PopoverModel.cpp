@@ -94,6 +94,11 @@ void PopoverModel::openSettings() {
     Q_EMIT settingsRequested();
 }
 
+void PopoverModel::addFolder() {
+    openMainWindow();
+    Q_EMIT addFolderRequested();
+}
+
 void PopoverModel::endRun(const RunReport& report) {
     const auto run = runs_.find(report.folderID);
     if (run == runs_.end() || report.number < run->second.number)

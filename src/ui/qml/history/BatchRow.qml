@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Quillon
 
 /// The head of a batch of entries. Right and Left open and close it, Enter does either, Ctrl+Z asks
 /// to take all of it back.

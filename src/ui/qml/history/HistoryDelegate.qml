@@ -1,4 +1,5 @@
 import QtQuick
+import Quillon
 
 /// A row of the history on its piece of the day's card.
 FocusScope {

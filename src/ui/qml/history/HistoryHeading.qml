@@ -1,4 +1,5 @@
 import QtQuick
+import Quillon
 
 /// A day, above its entries and over them while they scroll.
 Rectangle {

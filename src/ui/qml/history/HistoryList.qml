@@ -1,4 +1,5 @@
 import QtQuick
+import Quillon
 
 /// The rows of the history, with the headings of the days, of which the current one sticks to the
 /// top. One stop of the Tab key.

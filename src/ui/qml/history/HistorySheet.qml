@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Quillon
 
 /// The whole activity log by day: searched, filtered, and taken back.
 Sheet {
