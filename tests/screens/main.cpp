@@ -2,6 +2,7 @@
 #include "Scene.h"
 #include "service/Services.h"
 #include "store/SettingsTable.h"
+#include "ui/Translations.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -84,23 +85,24 @@ int takePicture(QApplication& application, const Scene& scene, SampleHome& home,
     window->show();
     Stage stage{model, *window, **store, services, home, desktop, server};
     scene.arrange(stage);
-    QTimer::singleShot(scene.settling, &application,
-                       [&] { application.exit(window->grabWindow().save(file) ? 0 : 1); });
+    if (!file.isEmpty())
+        QTimer::singleShot(scene.settling, &application,
+                           [&] { application.exit(window->grabWindow().save(file) ? 0 : 1); });
     return application.exec();
 }
 
 } // namespace
 
-/// A picture of one screen over a made-up home. The scale is QT_SCALE_FACTOR.
+/// A picture of one screen over a made-up home, or with --stay the screen itself on the desktop.
+/// The scale is QT_SCALE_FACTOR.
 int main(int argc, char** argv) {
     letPermissionsCount();
-    qputenv("QT_QPA_PLATFORM", qgetenv("QUILLON_SCREEN_PLATFORM").isEmpty() ? "offscreen" : "xcb");
-    qputenv("QT_QUICK_BACKEND", "software");
     QCommandLineParser parser;
     parser.addPositionalArgument(u"scene"_s, u"which, or \"list\""_s);
     parser.addPositionalArgument(u"file"_s, u"where to"_s);
     parser.addOptions({{u"dark"_s, u"in the dark"_s},
                        {u"rtl"_s, u"from right to left"_s},
+                       {u"stay"_s, u"show it until it is closed"_s},
                        {u"size"_s, u"of the window"_s, u"WxH"_s},
                        {u"font-size"_s, u"of the desktop's font"_s, u"points"_s}});
     QStringList words;
@@ -118,14 +120,21 @@ int main(int argc, char** argv) {
         return 0;
     }
     const auto scene = std::ranges::find(all, named.value(0), &Scene::name);
-    if (scene == all.end() || named.size() != 2) {
-        std::fprintf(stderr, "usage: screens list | SCENE FILE.png [--dark] [--rtl] [--size WxH] "
-                             "[--font-size POINTS]\n");
+    const bool stays = parser.isSet(u"stay"_s);
+    if (scene == all.end() || named.size() != (stays ? 1 : 2)) {
+        std::fprintf(
+            stderr,
+            "usage: screens list | SCENE --stay | SCENE FILE.png [--dark] [--rtl] [--size WxH] "
+            "[--font-size POINTS]\n");
         return 2;
     }
+    if (!stays)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
     SampleHome home(scene->home);
     moveInto(home);
     QApplication application(argc, argv);
+    installTranslations(application);
     if (parser.isSet(u"dark"_s))
         QApplication::setPalette(QPalette(QColor(0x2b, 0x2d, 0x30)));
     if (parser.isSet(u"rtl"_s))
