@@ -173,7 +173,7 @@ QVariant ActionListModel::data(const QModelIndex& index, int role) const {
 
 QHash<int, QByteArray> ActionListModel::roleNames() const {
     return {
-        {typeRole, "type"},         {editorRole, "editor"},     {destinationRole, "destination"},
+        {typeRole, "type"},         {editorRole, "control"},    {destinationRole, "destination"},
         {patternRole, "pattern"},   {exampleRole, "example"},   {tagRole, "tag"},
         {strategyRole, "strategy"}, {keepRole, "keepOriginal"}, {scriptRole, "script"},
         {shortcutRole, "shortcut"}, {spokenRole, "spoken"}};

@@ -29,10 +29,11 @@ public:
     /// The path without "~".
     [[nodiscard]] QString full(const QString& destination) const;
 
-private:
-    [[nodiscard]] QVariantMap look(std::size_t place) const;
+    /// A path as people read it, the home folder as "~".
     [[nodiscard]] QString place(const QString& path) const;
 
+private:
+    [[nodiscard]] QVariantMap look(std::size_t index) const;
     std::vector<WatchedFolder> folders_;
     std::string home_;
 };

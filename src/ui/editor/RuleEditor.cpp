@@ -110,6 +110,7 @@ void RuleEditor::show(const Opening& opening) {
     folderID_ = opening.folderID;
     isNew_ = opening.isNew;
     opened_ = opening.rule;
+    draft_ = opening.rule;
     foldersEdited();
     listShortcuts();
     show(opening.rule);
@@ -172,6 +173,10 @@ void RuleEditor::cancel() {
 
 QString RuleEditor::folderId() const {
     return uuidText(folderID_);
+}
+
+QString RuleEditor::shortcutsPlace() const {
+    return choices_.place(shortcutsFolder(around_.probing.platform));
 }
 
 void RuleEditor::setName(const QString& name) {

@@ -5,6 +5,7 @@
 #include "ui/Sheets.h"
 #include "ui/Toasts.h"
 #include "ui/editor/ActionListModel.h"
+#include "ui/editor/CalendarMonth.h"
 #include "ui/editor/ConditionListModel.h"
 #include "ui/editor/Question.h"
 #include "ui/editor/RuleDrafting.h"
@@ -25,9 +26,11 @@ class RuleEditor final : public QObject {
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY opened)
     Q_PROPERTY(bool isNew READ isNew NOTIFY opened)
     Q_PROPERTY(QString folderId READ folderId NOTIFY opened)
+    Q_PROPERTY(QString title READ title NOTIFY opened)
     Q_PROPERTY(QVariantMap folder READ folder NOTIFY foldersChanged)
     Q_PROPERTY(QVariantList folderChoices READ folderChoices NOTIFY foldersChanged)
     Q_PROPERTY(QStringList shortcuts READ shortcuts NOTIFY shortcutsChanged)
+    Q_PROPERTY(QString shortcutsPlace READ shortcutsPlace NOTIFY opened)
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY edited)
     Q_PROPERTY(bool isEnabled READ isEnabled WRITE setIsEnabled NOTIFY edited)
     Q_PROPERTY(int matchMode READ matchMode WRITE setMatchMode NOTIFY edited)
@@ -45,6 +48,7 @@ class RuleEditor final : public QObject {
     Q_PROPERTY(quillon::RuleProbe* probe READ probe CONSTANT)
     Q_PROPERTY(quillon::RuleDrafting* dobbin READ dobbin CONSTANT)
     Q_PROPERTY(quillon::Question* question READ question CONSTANT)
+    Q_PROPERTY(quillon::CalendarMonth* calendar READ calendar CONSTANT)
 
 public:
     /// All borrowed.
@@ -81,9 +85,12 @@ public:
     [[nodiscard]] bool isOpen() const { return opened_.has_value(); }
     [[nodiscard]] bool isNew() const { return isNew_; }
     [[nodiscard]] QString folderId() const;
+    [[nodiscard]] QString title() const { return isNew_ ? tr("New rule") : tr("Edit rule"); }
     [[nodiscard]] QVariantMap folder() const { return choices_.look(folderID_); }
     [[nodiscard]] QVariantList folderChoices() const { return choices_.menuWithout(folderID_); }
     [[nodiscard]] QStringList shortcuts() const { return shortcuts_; }
+    /// The folder that they lie in, as people read it.
+    [[nodiscard]] QString shortcutsPlace() const;
     [[nodiscard]] QString name() const { return draft_.name; }
     void setName(const QString& name);
     [[nodiscard]] bool isEnabled() const { return draft_.isEnabled; }
@@ -107,6 +114,8 @@ public:
     [[nodiscard]] RuleProbe* probe() { return &probe_; }
     [[nodiscard]] RuleDrafting* dobbin() { return &dobbin_; }
     [[nodiscard]] Question* question() { return &question_; }
+    /// To choose the day of a condition from.
+    [[nodiscard]] CalendarMonth* calendar() { return &calendar_; }
 
     /// The draft as it stands.
     [[nodiscard]] const Rule& rule() const { return draft_; }
@@ -166,6 +175,7 @@ private:
     RuleProbe probe_;
     RuleDrafting dobbin_;
     Question question_;
+    CalendarMonth calendar_;
 };
 
 } // namespace quillon

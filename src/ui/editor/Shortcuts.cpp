@@ -6,8 +6,12 @@
 
 namespace quillon {
 
+QString shortcutsFolder(const Platform& platform) {
+    return QString::fromStdString(joinPath(platform.folders.data, "shortcuts"));
+}
+
 QStringList shortcutNames(const Platform& platform) {
-    const QDir folder(QString::fromStdString(joinPath(platform.folders.data, "shortcuts")));
+    const QDir folder(shortcutsFolder(platform));
     return folder.entryList(QDir::Files | QDir::Executable, QDir::Name | QDir::IgnoreCase);
 }
 
