@@ -89,8 +89,8 @@ QString timeAgoText(Timestamp moment, Timestamp now) {
 }
 
 QString comingTimeText(Timestamp moment, Timestamp now, const QLocale& locale) {
-    const bool isToday = localDay(moment) <= localDay(now);
-    return (isToday ? Texts::tr("at %1", "a time of today") : Texts::tr("tomorrow at %1"))
+    const bool isSoon = moment - now < std::chrono::hours(6) || localDay(moment) == localDay(now);
+    return (isSoon ? Texts::tr("at %1", "a time soon") : Texts::tr("tomorrow at %1"))
         .arg(clockText(moment, locale));
 }
 

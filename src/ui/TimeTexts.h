@@ -31,7 +31,7 @@ namespace quillon {
 /// To follow a verb: "just now", "4 minutes ago", "3 hours ago", "yesterday", "on 17 Nov".
 [[nodiscard]] QString timeAgoText(Timestamp moment, Timestamp now);
 
-/// When something will happen, to follow "Next": "at 10:00", "tomorrow at 10:00".
+/// When something will happen within a day, to follow "Next": "at 10:00", "tomorrow at 10:00".
 [[nodiscard]] QString comingTimeText(Timestamp moment, Timestamp now,
                                      const QLocale& locale = QLocale());
 

