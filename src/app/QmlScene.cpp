@@ -1,6 +1,7 @@
 #include "app/QmlScene.h"
 
 #include "ui/DesktopLook.h"
+#include "ui/icons/ImageProviders.h"
 
 #include <QQmlComponent>
 #include <QQmlContext>
@@ -12,6 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 std::unique_ptr<QQmlEngine> makeQmlEngine(AppModel& model, DesktopAppearance* appearance) {
     auto engine = std::make_unique<QQmlEngine>();
     engine->addImportPath(u"qrc:/"_s);
+    addImageProviders(*engine);
     engine->rootContext()->setContextProperty(u"Desktop"_s,
                                               new DesktopLook(appearance, engine.get()));
     engine->rootContext()->setContextProperty(u"App"_s, &model);

@@ -9,7 +9,7 @@ Rectangle {
     property string text
     property string glyph
     property string iconName
-    readonly property bool isRound: text.length + (symbol.visible ? 1 : 0) <= 1
+    readonly property bool isRound: text.length + (glyph !== "" || iconName !== "" ? 1 : 0) <= 1
     readonly property color ink: ({
             "error": Theme.onError,
             "warn": Theme.warn,

@@ -20,6 +20,11 @@ T.Button {
 
     readonly property bool filled: kind === "primary" || kind === "dobbin"
     readonly property color ink: kind === "primary" ? Theme.onAccent : kind === "dobbin" ? Theme.onDobbin : kind === "link" ? Theme.accent : kind === "destructive" ? Theme.error : kind === "quiet" ? Theme.text2 : Theme.text1
+    readonly property var style: small ? (filled ? Theme.captionStrong : Theme.captionMedium) : filled ? Theme.bodyStrong : Theme.bodyMedium
+    readonly property bool hasSymbol: iconName !== "" || glyph !== ""
+    readonly property int symbolSize: small ? 14 : 16
+    readonly property int symbolRoom: !hasSymbol ? 0 : text === "" ? symbolSize : symbolSize + 7
+    readonly property int chevronRoom: opensMore ? 18 : 0
     readonly property int radius: small ? Theme.rTile : Theme.rControl
 
     implicitHeight: kind === "link" || small ? Theme.controlSmall : large ? Theme.controlLarge : Theme.control
@@ -46,61 +51,69 @@ T.Button {
     Accessible.onPressAction: if (!busy) click()
 
     contentItem: Item {
-        implicitWidth: row.implicitWidth
-        implicitHeight: row.implicitHeight
+        implicitWidth: control.symbolRoom + Math.ceil(measure.advanceWidth) + control.chevronRoom
+        implicitHeight: words.implicitHeight
 
-        Row {
-            id: row
+        Item {
             anchors.centerIn: parent
-            spacing: 7
+            width: Math.min(parent.width, parent.implicitWidth)
+            height: parent.height
 
-            Item {
+            Symbol {
+                anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
-                visible: control.iconName !== "" || control.glyph !== "" || control.busy && control.text === ""
-                width: control.small ? 14 : 16
-                height: width
+                visible: control.hasSymbol && !control.busy
+                iconName: control.iconName
+                glyph: control.glyph
+                size: control.symbolSize
+                color: control.ink
+            }
 
-                Symbol {
-                    anchors.fill: parent
-                    visible: !control.busy
-                    iconName: control.iconName
-                    glyph: control.glyph
-                    size: parent.width
+            Words {
+                id: words
+                anchors.left: parent.left
+                anchors.leftMargin: control.symbolRoom
+                anchors.right: parent.right
+                anchors.rightMargin: control.chevronRoom
+                anchors.verticalCenter: parent.verticalCenter
+                text: control.text
+                style: control.style
+                color: control.ink
+                font.underline: control.kind === "link" && control.hovered
+                opacity: control.busy && !control.hasSymbol ? 0 : 1
+                Accessible.ignored: true
+            }
+
+            Loader {
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                active: control.opensMore
+                sourceComponent: Glyph {
+                    name: "chevron"
+                    rotation: control.mirrored ? 90 : -90
+                    size: 10
                     color: control.ink
                 }
             }
 
-            Label {
+            Loader {
+                x: control.hasSymbol === control.mirrored ? parent.width - width : 0
+                anchors.horizontalCenter: control.hasSymbol ? undefined : parent.horizontalCenter
                 anchors.verticalCenter: parent.verticalCenter
-                visible: text !== ""
-                width: Math.min(implicitWidth, Math.max(0, control.availableWidth - x))
-                text: control.text
-                style: control.filled ? Theme.bodyStrong : Theme.bodyMedium
-                color: control.ink
-                font.pixelSize: control.small ? Theme.caption.size : Theme.body.size
-                font.underline: control.kind === "link" && control.hovered
-                opacity: control.busy && control.iconName === "" && control.glyph === "" ? 0 : 1
-                Accessible.ignored: true
-            }
-
-            Glyph {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: control.opensMore
-                name: "chevron"
-                rotation: control.LayoutMirroring.enabled ? 90 : -90
-                size: 10
-                color: control.ink
+                active: control.busy
+                sourceComponent: Spinner {
+                    size: 14
+                    color: control.ink
+                    trackColor: Qt.rgba(control.ink.r, control.ink.g, control.ink.b, 0.3)
+                }
             }
         }
+    }
 
-        Spinner {
-            visible: control.busy
-            size: 14
-            x: row.x + (control.iconName !== "" || control.glyph !== "" ? 1 : (row.width - width) / 2)
-            anchors.verticalCenter: parent.verticalCenter
-            color: control.ink
-            trackColor: Qt.rgba(control.ink.r, control.ink.g, control.ink.b, 0.3)
-        }
+    TextMetrics {
+        id: measure
+        text: control.text
+        font: words.font
     }
 
     background: ButtonFill {
@@ -110,10 +123,10 @@ T.Button {
         pressed: control.down && !control.busy
     }
 
-    MouseArea {
+    Loader {
         anchors.fill: parent
-        enabled: control.busy
-        visible: enabled
+        active: control.busy
+        sourceComponent: MouseArea {}
     }
 
     FocusRing {

@@ -1,24 +1,28 @@
 import QtQuick
 
 /// What is wrong with the field above it.
-Row {
+Item {
     id: line
 
     property string text
 
-    spacing: 6
-    topPadding: Theme.s2
+    implicitHeight: visible ? words.height + Theme.s2 : 0
     visible: text !== ""
 
     Glyph {
-        y: line.topPadding + (Theme.caption.lineHeight - height) / 2
-        name: "alert"
+        anchors.left: parent.left
+        y: words.y + Math.round((Theme.caption.lineHeight - height) / 2)
+        name: line.visible ? "alert" : ""
         size: 14
         color: Theme.error
     }
 
-    Label {
-        width: Math.min(implicitWidth, Math.max(0, line.width - x))
+    Words {
+        id: words
+        anchors.left: parent.left
+        anchors.leftMargin: 19
+        anchors.right: parent.right
+        y: Theme.s2
         text: line.text
         style: Theme.caption
         color: Theme.error

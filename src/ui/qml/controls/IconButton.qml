@@ -53,10 +53,12 @@ T.Button {
             color: control.iconColor
         }
 
-        Spinner {
+        Loader {
             anchors.centerIn: parent
-            visible: control.busy
-            size: 14
+            active: control.busy
+            sourceComponent: Spinner {
+                size: 14
+            }
         }
     }
 
@@ -68,10 +70,10 @@ T.Button {
         color: control.fillColor.a > 0 && !hovered && !pressed ? control.fillColor : control.kind === "secondary" && !hovered && !pressed ? Theme.card : hovered || pressed ? Theme.hover : "transparent"
     }
 
-    MouseArea {
+    Loader {
         anchors.fill: parent
-        enabled: control.busy
-        visible: enabled
+        active: control.busy
+        sourceComponent: MouseArea {}
     }
 
     FocusRing {
