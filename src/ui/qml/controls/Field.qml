@@ -66,7 +66,7 @@ FocusScope {
             T.TextField {
                 id: input
                 anchors.left: parent.left
-                anchors.leftMargin: icon.visible ? 28 : 0
+                anchors.leftMargin: icon.visible ? 22 : 0
                 anchors.right: trailing.left
                 height: parent.height
                 focus: true
