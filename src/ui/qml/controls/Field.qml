@@ -66,16 +66,17 @@ FocusScope {
             T.TextField {
                 id: input
                 anchors.left: parent.left
-                anchors.leftMargin: icon.visible ? 22 : 0
+                anchors.leftMargin: icon.visible ? 21 : 0
                 anchors.right: trailing.left
                 height: parent.height
                 focus: true
-                leftPadding: 10
-                rightPadding: 10
+                leftPadding: 11
+                rightPadding: 11
                 activeFocusOnTab: true
                 selectByMouse: true
-                clip: contentWidth > width - 20
+                clip: contentWidth > width - 22
                 verticalAlignment: TextInput.AlignVCenter
+                horizontalAlignment: TextInput.AlignLeft
                 echoMode: field.hidden ? TextInput.Password : TextInput.Normal
                 color: Theme.text1
                 placeholderText: field.placeholder

@@ -10,7 +10,7 @@ T.MenuItem {
     readonly property color ink: highlighted ? Theme.onAccent : destructive ? Theme.error : Theme.text1
 
     implicitHeight: visible ? Theme.rowMenu : 0
-    implicitWidth: 10 + 16 + 10 + words.implicitWidth + 24 + (shortcutText === "" ? 14 : hint.implicitWidth) + 10
+    implicitWidth: 10 + 16 + 10 + words.implicitWidth + 16 + (shortcutText === "" ? 14 : hint.implicitWidth) + 10
     padding: 0
     leftPadding: 10
     rightPadding: 10

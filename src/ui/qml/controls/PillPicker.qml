@@ -9,12 +9,14 @@ T.ComboBox {
     property string iconName
     property string iconRole
     property bool inRow: false
+    /// The widest item decides where it is wider.
+    property int leastWidth: 0
     property int radius: Theme.rControl
 
     implicitHeight: inRow ? Theme.controlInRow : Theme.control
-    implicitWidth: widest + leftPadding + rightPadding
-    leftPadding: 11
-    rightPadding: 30
+    implicitWidth: Math.max(leastWidth, widest + leftPadding + rightPadding)
+    leftPadding: mirrored ? 30 : 11
+    rightPadding: mirrored ? 11 : 30
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : Theme.disabledOpacity

@@ -25,7 +25,9 @@ FocusScope {
     property alias note: note.data
     property alias footer: buttons.data
     readonly property alias panel: panel
+    /// What had the focus before, and gets it back.
     property Item opener
+    property var shownIn: null
 
     signal closeRequested
 
@@ -41,14 +43,45 @@ FocusScope {
             primary.click();
     }
 
+    /// The sheet that an item lies in, if any.
+    function sheetOf(item) {
+        while (item && item.pressPrimary === undefined)
+            item = item.parent;
+        return item;
+    }
+
+    function reveal(item) {
+        if (!scrolls || !item || sheetOf(item) !== sheet)
+            return;
+        const top = item.mapToItem(bodySlot, 0, 0).y;
+        if (top + item.height < 0 || top > bodySlot.height)
+            return;
+        const room = Math.min(scroller.height, scroller.contentHeight);
+        if (top - Theme.s2 < scroller.contentY)
+            scroller.contentY = Math.max(0, top - Theme.s2);
+        else if (top + item.height + Theme.s4 > scroller.contentY + room)
+            scroller.contentY = Math.min(top - Theme.s2, top + item.height + Theme.s4 - room);
+    }
+
     Component.onCompleted: {
-        opener = Window.activeFocusItem;
-        forceActiveFocus(Qt.PopupFocusReason);
+        shownIn = Window.window;
+        const last = sheetOf(Window.activeFocusItem);
+        opener = last ? last.opener : Window.activeFocusItem;
+        if (!activeFocus)
+            forceActiveFocus(Qt.PopupFocusReason);
         entrance.start();
     }
     Component.onDestruction: {
-        if (opener && opener.visible)
+        const now = shownIn ? shownIn.activeFocusItem : null;
+        if (opener && opener.visible && opener.enabled && (!now || !sheetOf(now) || sheetOf(now) === sheet))
             opener.forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    Connections {
+        target: sheet.shownIn
+        function onActiveFocusItemChanged() {
+            sheet.reveal(sheet.shownIn.activeFocusItem);
+        }
     }
 
     Keys.onEscapePressed: closeRequested()
@@ -57,6 +90,14 @@ FocusScope {
         event.accepted = isReturn && (event.modifiers & Qt.ControlModifier) !== 0 && (event.modifiers & Qt.ShiftModifier) === 0;
         if (event.accepted)
             pressPrimary();
+    }
+
+    // Tab stays in the sheet: these two ends are tied together.
+    Item {
+        id: head
+        activeFocusOnTab: true
+        Accessible.ignored: true
+        onActiveFocusChanged: if (activeFocus) tail.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
     }
 
     Rectangle {
@@ -76,7 +117,7 @@ FocusScope {
         id: panel
 
         readonly property int edge: sheet.height < 720 ? 12 : 24
-        readonly property real needed: header.height + bodySlot.childrenRect.height + sheet.bodyMargin + pinned.height + footer.height
+        readonly property real needed: header.height + bodySlot.childrenRect.height + Theme.s4 + pinned.height + footer.height
 
         anchors.horizontalCenter: parent.horizontalCenter
         y: Math.round((parent.height - height) / 2) + rise
@@ -111,7 +152,7 @@ FocusScope {
                 anchors.leftMargin: sheet.tile ? Theme.s3 : 0
                 anchors.right: headerEnd.left
                 anchors.rightMargin: Theme.s3
-                y: Theme.s6 - 3
+                y: Theme.s6 - 4
 
                 Label {
                     width: parent.width
@@ -141,23 +182,32 @@ FocusScope {
 
         Flickable {
             id: scroller
+
+            // What is at the edges keeps its focus ring.
+            readonly property int slack: Theme.s2
+
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.leftMargin: sheet.bodyMargin
-            anchors.rightMargin: sheet.bodyMargin
             anchors.top: header.bottom
+            anchors.topMargin: -slack
             anchors.bottom: pinned.top
             interactive: sheet.scrolls && contentHeight > height
             clip: interactive
             boundsBehavior: Flickable.StopAtBounds
             contentWidth: width
-            contentHeight: sheet.scrolls ? bodySlot.childrenRect.height + Theme.s4 : height
+            contentHeight: sheet.scrolls ? bodySlot.height + slack + Theme.s4 : height
 
             Item {
                 id: bodySlot
-                width: scroller.width
-                height: sheet.scrolls ? childrenRect.height : scroller.height
+                x: sheet.bodyMargin
+                y: scroller.slack
+                width: scroller.width - 2 * x
+                height: sheet.scrolls ? childrenRect.height : scroller.height - y
             }
+        }
+
+        ScrollBar {
+            flickable: scroller
         }
 
         Item {
@@ -202,7 +252,6 @@ FocusScope {
 
                 RowLayout {
                     id: destructive
-                    Layout.leftMargin: -13
                     visible: children.length > 0
                 }
 
@@ -218,6 +267,13 @@ FocusScope {
                 }
             }
         }
+    }
+
+    Item {
+        id: tail
+        activeFocusOnTab: true
+        Accessible.ignored: true
+        onActiveFocusChanged: if (activeFocus) head.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
     }
 
     ParallelAnimation {

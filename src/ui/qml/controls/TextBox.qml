@@ -57,11 +57,12 @@ FocusScope {
                     activeFocusOnTab: true
                     topPadding: 6
                     bottomPadding: 6
-                    leftPadding: 10
-                    rightPadding: 10
+                    leftPadding: 11
+                    rightPadding: 11
                     selectByMouse: true
                     wrapMode: TextEdit.Wrap
                     textFormat: TextEdit.PlainText
+                    horizontalAlignment: TextEdit.AlignLeft
                     color: Theme.text1
                     selectionColor: Theme.accent
                     selectedTextColor: Theme.onAccent
@@ -100,7 +101,7 @@ FocusScope {
                     Text {
                         x: input.leftPadding
                         y: input.topPadding
-                        width: input.width - 20
+                        width: input.width - 22
                         visible: input.length === 0 && input.preeditText === ""
                         text: box.placeholder
                         textFormat: Text.PlainText
