@@ -34,9 +34,23 @@ RuleEditor::Surroundings editorSurroundings(const AppModel::Surroundings& around
 
 AppModel::AppModel(const Surroundings& around, QObject* parent)
     : QObject(parent)
-    , folders_(around.store)
-    , page_(around.store)
-    , entries_(around.store)
+    , folders_({.store = around.store,
+                .fileSystem = around.services.platform().fileSystem,
+                .background = around.services.background(),
+                .fileChooser = around.fileChooser,
+                .toasts = toasts_,
+                .home = around.services.platform().folders.home})
+    , page_({.store = around.store,
+             .platform = around.services.platform(),
+             .background = around.services.background(),
+             .timers = around.services.timers(),
+             .fileChooser = around.fileChooser,
+             .toasts = toasts_})
+    , entries_({.store = around.store,
+                .fileSystem = around.services.platform().fileSystem,
+                .background = around.services.background(),
+                .fileManager = around.fileManager,
+                .toasts = toasts_})
     , editor_(editorSurroundings(around, sheets_, toasts_))
     , preview_(around.store)
     , cleanup_(around.store)
