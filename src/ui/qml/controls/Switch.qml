@@ -51,7 +51,7 @@ T.Switch {
             width: 16
             height: 16
             radius: 8
-            color: control.checked ? Theme.knobOn : "#FFFFFF"
+            color: control.checked ? Theme.knobOn : Theme.knob
 
             Behavior on x {
                 enabled: !control.pressed

@@ -52,6 +52,7 @@ QtObject {
     readonly property alias onToast: inks.toast
     readonly property color toastLink: isDark ? "#9ADDE2" : "#8FD6DC"
     readonly property color switchOff: isDark ? "#5D6468" : "#8D9196"
+    readonly property color knob: "#FFFFFF"
     readonly property color knobOn: isDark ? "#0B2123" : "#FFFFFF"
     readonly property color tickOutline: isDark ? "#7A8186" : "#8A8E93"
     /// Around the chosen colours of a text field, and over a surface that is pressed.
