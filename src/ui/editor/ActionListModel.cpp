@@ -1,6 +1,7 @@
 #include "ui/editor/ActionListModel.h"
 
 #include "engine/RenamePattern.h"
+#include "ui/ActionIcon.h"
 #include "ui/editor/EditedRows.h"
 
 namespace quillon {
@@ -9,30 +10,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct TypeLook {
-    std::u16string_view icon;
-    std::u16string_view editor;
-};
-
-/// In the order of the types.
-constexpr auto looks = std::to_array<TypeLook>({
-    {u"edit-move", u"folder"},
-    {u"edit-copy", u"folder"},
-    {u"edit-rename", u"pattern"},
-    {u"tools-wizard", u"example"},
-    {u"tag", u"tag"},
-    {u"tag-delete", u"tag"},
-    {u"view-group", u"strategy"},
-    {u"archive-extract", u"keep"},
-    {u"tools-wizard", u"shortcut"},
-    {u"dialog-scripts", u"script"},
-    {u"user-trash", u"none"},
-});
-static_assert(looks.size() == rawValues<ActionType>.size());
-
-const TypeLook& lookOf(ActionType type) {
-    return looks[static_cast<std::size_t>(type)];
-}
+/// The control that fits each type, in their order.
+constexpr auto controls = std::to_array<std::u16string_view>(
+    {u"folder", u"folder", u"pattern", u"example", u"tag", u"tag", u"strategy", u"keep",
+     u"shortcut", u"script", u"none"});
+static_assert(controls.size() == rawValues<ActionType>.size());
 
 } // namespace
 
@@ -53,6 +35,7 @@ void ActionListModel::setExample(std::optional<ExampleFile> file) {
         return;
     example_ = std::move(file);
     refresh({exampleRole});
+    Q_EMIT tokensChanged();
 }
 
 int ActionListModel::add(int type) {
@@ -85,7 +68,7 @@ void ActionListModel::move(int from, int to) {
 }
 
 void ActionListModel::setType(int row, int index) {
-    if (index >= 0 && index < int(looks.size()))
+    if (index >= 0 && index < int(controls.size()))
         change(row, [&](RuleAction& action) { action.type = ActionType(index); });
 }
 
@@ -122,8 +105,7 @@ void ActionListModel::setShortcut(int row, const QString& name) {
 QVariantList ActionListModel::types() {
     QVariantList items;
     for (const ActionType type : allCases<ActionType>())
-        items.append(QVariantMap{{u"text"_s, rawValue(type)},
-                                 {u"iconName"_s, toQString(lookOf(type).icon)}});
+        items.append(QVariantMap{{u"text"_s, rawValue(type)}, {u"iconName"_s, actionIcon(type)}});
     return items;
 }
 
@@ -131,8 +113,12 @@ QStringList ActionListModel::strategies() {
     return texts(allCases<SortStrategy>(), rawValue<SortStrategy>);
 }
 
-QStringList ActionListModel::tokens() {
-    return {u"{name}"_s, u"{ext}"_s, u"{date}"_s, u"{datetime}"_s, u"{counter}"_s};
+QStringList ActionListModel::tokens() const {
+    QStringList tokens{u"{name}"_s,         u"{ext}"_s,     u"{date}"_s,     u"{datetime}"_s,
+                       u"{date:yyyy-MM}"_s, u"{counter}"_s, u"{counter:3}"_s};
+    if (example_ && !example_->captures.isEmpty())
+        tokens.append(u"{1}"_s);
+    return tokens;
 }
 
 int ActionListModel::rowCount(const QModelIndex& parent) const {
@@ -146,8 +132,8 @@ QVariant ActionListModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case typeRole:
         return static_cast<int>(action.type);
-    case editorRole:
-        return toQString(lookOf(action.type).editor);
+    case controlRole:
+        return toQString(controls[std::size_t(action.type)]);
     case destinationRole:
         return folders_.look(action.destination.value_or(QString()));
     case patternRole:
@@ -173,7 +159,7 @@ QVariant ActionListModel::data(const QModelIndex& index, int role) const {
 
 QHash<int, QByteArray> ActionListModel::roleNames() const {
     return {
-        {typeRole, "type"},         {editorRole, "control"},    {destinationRole, "destination"},
+        {typeRole, "type"},         {controlRole, "control"},   {destinationRole, "destination"},
         {patternRole, "pattern"},   {exampleRole, "example"},   {tagRole, "tag"},
         {strategyRole, "strategy"}, {keepRole, "keepOriginal"}, {scriptRole, "script"},
         {shortcutRole, "shortcut"}, {spokenRole, "spoken"}};

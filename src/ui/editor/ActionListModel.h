@@ -21,12 +21,12 @@ class ActionListModel final : public QAbstractListModel {
     Q_PROPERTY(int count READ count NOTIFY edited)
     Q_PROPERTY(QVariantList types READ types CONSTANT)
     Q_PROPERTY(QStringList strategies READ strategies CONSTANT)
-    Q_PROPERTY(QStringList tokens READ tokens CONSTANT)
+    Q_PROPERTY(QStringList tokens READ tokens NOTIFY tokensChanged)
 
 public:
     enum Role {
         typeRole = Qt::UserRole, ///< index into `types`
-        editorRole,      ///< name of the control that fits: "folder", "pattern", "tag", "none", …
+        controlRole,     ///< name of the control that fits: "folder", "pattern", "tag", "none", …
         destinationRole, ///< as FolderChoices shows it
         patternRole,
         exampleRole, ///< a sentence: what a file would be called
@@ -61,7 +61,8 @@ public:
     /// The text and the iconName of each.
     [[nodiscard]] static QVariantList types();
     [[nodiscard]] static QStringList strategies();
-    [[nodiscard]] static QStringList tokens();
+    /// What a pattern may hold.
+    [[nodiscard]] QStringList tokens() const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -70,6 +71,7 @@ public:
 Q_SIGNALS:
     /// By whomever.
     void edited();
+    void tokensChanged();
 
 private:
     [[nodiscard]] bool has(int row) const { return row >= 0 && row < count(); }

@@ -1,6 +1,7 @@
 #include "ui/editor/FolderChoices.h"
 
 #include "model/PathText.h"
+#include "ui/FolderLook.h"
 
 #include <algorithm>
 
@@ -46,11 +47,12 @@ QString FolderChoices::full(const QString& destination) const {
 
 QVariantMap FolderChoices::look(std::size_t index) const {
     const WatchedFolder& folder = folders_[index];
+    const FolderLook look = lookOf(folder, index);
     return {{u"name"_s, folder.name()},
             {u"path"_s, folder.path},
             {u"place"_s, place(folder.path)},
-            {u"tint"_s, folder.colorIndex.value_or(int(index))},
-            {u"symbol"_s, folder.symbolName.value_or(u"folder"_s)}};
+            {u"tint"_s, look.tint},
+            {u"symbol"_s, look.symbol}};
 }
 
 QString FolderChoices::place(const QString& path) const {

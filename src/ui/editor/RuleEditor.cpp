@@ -34,6 +34,16 @@ RulePlace placeOf(const QUuid& folderID, const AppStore& store) {
     return place;
 }
 
+/// What counts for which files the rule catches, so that nothing else is a reason to look again.
+Rule catching(Rule rule) {
+    rule.name.clear();
+    rule.isEnabled = true;
+    std::erase_if(rule.actions, [](const RuleAction& action) {
+        return action.type != ActionType::renameWithDobbin;
+    });
+    return rule;
+}
+
 QSet<QString> destinations(const Rule& rule) {
     QSet<QString> found;
     for (const RuleAction& action : rule.actions)
@@ -115,7 +125,7 @@ void RuleEditor::show(const Opening& opening) {
     listShortcuts();
     show(opening.rule);
     probe_.open(*store_.folder(folderID_));
-    probe_.setRule(draft_);
+    probe_.setRule(catching(draft_));
     dobbin_.open(placeOf(folderID_, store_), opening.sentence);
     Q_EMIT opened();
     around_.sheets.open(u"RuleEditorSheet"_s);
@@ -237,7 +247,7 @@ void RuleEditor::draftEdited() {
     draft_.conditions = conditions_.conditions();
     draft_.actions = actions_.actions();
     if (opened_)
-        probe_.setRule(draft_);
+        probe_.setRule(catching(draft_));
     Q_EMIT edited();
 }
 

@@ -58,19 +58,19 @@ Condition fitted(Condition condition, ValueEditor before) {
     return condition;
 }
 
-/// A day as the user's locale writes it, with four digits of the year or two.
+/// A day as the user's locale writes it, with four digits of the year or with two, which are those
+/// of this century or of the end of the last.
 QDate localDay(const QString& text) {
     const QLocale locale;
-    for (const auto form : {QLocale::ShortFormat, QLocale::LongFormat}) {
-        const QString format = locale.dateFormat(form);
-        QString fourDigits = format;
-        if (!format.contains(u"yyyy"_s))
-            fourDigits.replace(u"yy"_s, u"yyyy"_s);
-        for (const QString& each : {fourDigits, format})
-            if (const QDate day = locale.toDate(text, each); day.isValid())
-                return day;
-    }
-    return {};
+    const QString shortFormat = locale.dateFormat(QLocale::ShortFormat);
+    QString fourDigits = shortFormat;
+    if (!shortFormat.contains(u"yyyy"_s))
+        fourDigits.replace(u"yy"_s, u"yyyy"_s);
+    for (const QString& format : {fourDigits, locale.dateFormat(QLocale::LongFormat)})
+        if (const QDate day = locale.toDate(text, format); day.isValid())
+            return day;
+    const QDate day = locale.toDate(text, shortFormat);
+    return day.isValid() && day.year() < 1970 ? day.addYears(100) : day;
 }
 
 QString needs(ValueEditor editor) {
