@@ -92,7 +92,6 @@ EditorRow {
             readonly property Item field: children[0]
             height: Theme.controlInRow
             topPadding: (Theme.controlInRow - 24) / 2
-            leftPadding: Theme.s2
             current: row.tag
             onChosen: word => row.model.setTag(row.index, word)
         }

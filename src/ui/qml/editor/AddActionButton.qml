@@ -32,6 +32,7 @@ Button {
 
     Menu {
         id: menu
+        x: button.mirrored ? 0 : button.width - width
         y: button.height + 4
 
         Instantiator {

@@ -20,7 +20,6 @@ Rectangle {
 
     function focusField() {
         input.forceActiveFocus(Qt.ShortcutFocusReason);
-        input.selectAll();
     }
 
     Column {
@@ -182,7 +181,7 @@ Rectangle {
 
         Symbol {
             id: symbol
-            y: (Theme.caption.lineHeight - height) / 2
+            y: (row.height > 0 ? line.height - height : Theme.caption.lineHeight - height) / 2
             anchors.left: parent.left
             iconName: line.iconName
             glyph: line.glyph

@@ -16,7 +16,7 @@ FocusScope {
     property Item first
     property Item valueItem
 
-    readonly property bool isDragged: drag.active
+    readonly property bool isDragged: grip.isDragged
     property real grabbedAt: 0
     property int grabbedRow: 0
 
@@ -34,69 +34,46 @@ FocusScope {
     }
 
     transform: Translate {
-        y: row.isDragged ? row.grabbedAt + drag.activeTranslation.y - row.y : 0
+        y: row.isDragged ? row.grabbedAt + grip.distance - row.y : 0
     }
 
     Keys.onDeletePressed: row.list.removeRow(row.index)
     Keys.onEscapePressed: event => {
         event.accepted = row.isDragged;
         if (row.isDragged) {
-            drag.enabled = false;
             row.list.rows.move(row.index, row.grabbedRow);
-            drag.enabled = true;
+            grip.drop();
         }
     }
 
-    Item {
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -6
+        visible: row.isDragged
+        radius: Theme.rBanner
+        color: Theme.card
+        border.width: 1
+        border.color: Theme.line
+
+        Shadow {
+            elevation: 2
+        }
+    }
+
+    EditorGrip {
         id: grip
-
-        readonly property int radius: 4
-        readonly property bool visualFocus: activeFocus
-
         visible: row.list.rows.count > 1
         anchors.left: parent.left
         anchors.leftMargin: row.gripInMargin ? -18 : 0
-        width: 12
-        height: Theme.controlInRow
-        activeFocusOnTab: true
-        Accessible.role: Accessible.Button
-        Accessible.name: qsTr("Move %1").arg(row.spoken)
-        Accessible.description: qsTr("Alt+Up and Alt+Down")
-
-        Glyph {
-            anchors.centerIn: parent
-            name: "grip"
-            color: Theme.text3
-            opacity: 0.7
+        spoken: row.spoken
+        onGrabbed: {
+            row.grabbedAt = row.y;
+            row.grabbedRow = row.index;
         }
-
-        HoverHandler {
-            cursorShape: row.isDragged ? Qt.ClosedHandCursor : Qt.OpenHandCursor
-        }
-
-        DragHandler {
-            id: drag
-            target: null
-            margin: 10
-            cursorShape: Qt.ClosedHandCursor
-            onActiveChanged: {
-                if (!active)
-                    return;
-                row.grabbedAt = row.y;
-                row.grabbedRow = row.index;
-                grip.forceActiveFocus(Qt.MouseFocusReason);
-            }
-            onActiveTranslationChanged: {
-                if (!active)
-                    return;
-                const target = row.list.rowAt(row.grabbedAt + activeTranslation.y + row.height / 2);
-                if (target >= 0 && target !== row.index)
-                    row.list.rows.move(row.index, target);
-            }
-        }
-
-        FocusRing {
-            target: grip
+        onMoved: {
+            const target = row.list.rowAt(row.grabbedAt + distance + row.height / 2);
+            if (target >= 0 && target !== row.index)
+                row.list.rows.move(row.index, target);
         }
     }
 

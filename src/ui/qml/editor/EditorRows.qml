@@ -7,13 +7,8 @@ Column {
 
     property QtObject rows
     property alias delegate: repeater.delegate
-    /// Index of the row that has the focus; -1 for none.
-    readonly property int focusedRow: {
-        for (let index = 0; index < repeater.count; ++index)
-            if (repeater.itemAt(index) && repeater.itemAt(index).activeFocus)
-                return index;
-        return -1;
-    }
+    /// What has the focus when the last row is gone.
+    property Item whenEmpty
 
     spacing: 6
     Accessible.role: Accessible.List
@@ -31,6 +26,14 @@ Column {
         model: list.rows
     }
 
+    /// Index of the row that has the focus; -1 for none.
+    function focusedRow() {
+        for (let index = 0; index < repeater.count; ++index)
+            if (repeater.itemAt(index) && repeater.itemAt(index).activeFocus)
+                return index;
+        return -1;
+    }
+
     /// part: "first" or "value".
     function focusRow(index, part) {
         const row = repeater.itemAt(index);
@@ -38,20 +41,24 @@ Column {
             row.focusPart(part);
     }
 
-    /// The row over which a point of this list lies.
+    /// The row over which a point of this list lies once every row has come to rest.
     function rowAt(y) {
+        let top = 0;
         for (let index = 0; index < repeater.count; ++index) {
-            const row = repeater.itemAt(index);
-            if (row && y >= row.y && y < row.y + row.height)
+            const bottom = top + repeater.itemAt(index).height;
+            if (y >= top && y < bottom)
                 return index;
+            top = bottom + spacing;
         }
         return -1;
     }
 
     function removeRow(index) {
-        const hadFocus = index === focusedRow;
+        const hadFocus = index === focusedRow();
         rows.remove(index);
-        if (hadFocus)
+        if (hadFocus && repeater.count > 0)
             focusRow(Math.min(index, repeater.count - 1), "first");
+        else if (hadFocus)
+            whenEmpty.forceActiveFocus(Qt.TabFocusReason);
     }
 }

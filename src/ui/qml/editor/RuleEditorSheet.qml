@@ -23,7 +23,9 @@ Sheet {
     primary: saveButton
     onCloseRequested: editor.cancel()
 
-    Component.onCompleted: {
+    Component.onCompleted: Qt.callLater(focusFirst)
+
+    function focusFirst() {
         if (editor.isNew && describe.canWrite)
             describe.focusField();
         else
@@ -47,7 +49,7 @@ Sheet {
     Shortcut {
         sequence: "Ctrl+Shift+Return"
         enabled: !question.visible
-        onActivated: actions.focusedRow >= 0 ? addAction.open() : sheet.addCondition()
+        onActivated: actions.focusedRow() >= 0 ? addAction.open() : sheet.newCondition()
     }
 
     Shortcut {
@@ -62,14 +64,16 @@ Sheet {
         onActivated: sheet.moveRow(1)
     }
 
-    function addCondition() {
+    function newCondition() {
         conditions.focusRow(editor.conditions.add(), "first");
     }
 
     function moveRow(step) {
-        const list = actions.focusedRow >= 0 ? actions : conditions;
-        if (list.focusedRow >= 0)
-            list.rows.move(list.focusedRow, list.focusedRow + step);
+        for (const list of [conditions, actions]) {
+            const row = list.focusedRow();
+            if (row >= 0)
+                list.rows.move(row, row + step);
+        }
     }
 
     headerEnd: [
@@ -173,12 +177,13 @@ Sheet {
             }
 
             Button {
+                id: addCondition
                 kind: "link"
                 iconName: "list-add"
                 text: qsTr("Add Condition")
                 shortcutText: "Ctrl+Shift+Enter"
                 toolTip: text
-                onClicked: sheet.addCondition()
+                onClicked: sheet.newCondition()
             }
         }
 
@@ -191,6 +196,7 @@ Sheet {
             id: conditions
             width: parent.width
             rows: sheet.editor.conditions
+            whenEmpty: addCondition
 
             delegate: ConditionRow {
                 list: conditions
@@ -241,6 +247,7 @@ Sheet {
             id: actions
             width: parent.width
             rows: sheet.editor.actions
+            whenEmpty: addAction
 
             delegate: ActionRow {
                 list: actions
