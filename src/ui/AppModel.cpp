@@ -60,7 +60,6 @@ AppModel::AppModel(const Surroundings& around, QObject* parent)
                 .background = around.services.background(),
                 .timers = around.services.timers(),
                 .sheets = sheets_,
-                .toasts = toasts_,
                 .makeJudge = quietJudges(around.services)})
     , cleanup_({.store = around.store,
                 .platform = around.services.platform(),

@@ -198,8 +198,8 @@ QString CleanupFileModel::whyHere(const Row& row) const {
 }
 
 QHash<int, QByteArray> CleanupFileModel::roleNames() const {
-    return {{isHeadRole, "isHead"}, {recipeRole, "recipe"}, {titleRole, "title"},
-            {kindRole, "kind"},     {textRole, "text"},     {sizeRole, "sizeText"},
+    return {{isHeadRole, "isHead"}, {recipeRole, "recipe"},   {titleRole, "title"},
+            {kindRole, "kind"},     {textRole, "secondLine"}, {sizeRole, "sizeText"},
             {tickRole, "tick"}};
 }
 

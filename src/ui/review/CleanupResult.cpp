@@ -1,7 +1,6 @@
 #include "ui/review/CleanupResult.h"
 
 #include "ui/CountTexts.h"
-#include "ui/review/RunTexts.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -17,6 +16,18 @@ namespace {
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(CleanupResult)
 };
+
+struct RunCount {
+    std::size_t filed = 0;
+    std::size_t failed = 0;
+};
+
+RunCount countOf(const RunResult& run) {
+    RunCount count;
+    for (const LogEntry& entry : run.entries)
+        ++(entry.isError ? count.failed : count.filed);
+    return count;
+}
 
 /// "4 moved to Trash"
 QString doneText(const RuleAction& action, std::size_t number) {

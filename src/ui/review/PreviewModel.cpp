@@ -5,9 +5,6 @@
 #include "ui/CountTexts.h"
 #include "ui/FileKindWord.h"
 #include "ui/FolderLook.h"
-#include "ui/review/RunTexts.h"
-
-#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -106,22 +103,6 @@ void PreviewModel::show(RunForecast forecast) {
     expected_ = forecast_.files.size();
     state_ = State::shown;
     layOut();
-}
-
-void PreviewModel::run() {
-    if (!canRun())
-        return;
-    const QUuid folderID = folder_.id;
-    around_.sheets.close();
-    const std::uint64_t number = around_.store.runRules(folderID, RunCause::asked);
-    const auto told = std::make_shared<QMetaObject::Connection>();
-    *told = connect(&around_.store, &AppStore::runFinished, this,
-                    [this, told, number](const RunReport& report) {
-                        if (report.number != number)
-                            return;
-                        disconnect(*told);
-                        around_.toasts.show(runText(report));
-                    });
 }
 
 void PreviewModel::close() {

@@ -5,7 +5,6 @@
 #include "platform/Timers.h"
 #include "store/AppStore.h"
 #include "ui/Sheets.h"
-#include "ui/Toasts.h"
 #include "ui/review/RunForecast.h"
 
 #include <QAbstractListModel>
@@ -39,7 +38,6 @@ public:
         Background& background;
         Timers& timers;
         Sheets& sheets;
-        Toasts& toasts;
         /// A judge that answers what is known, and asks nobody.
         std::function<std::unique_ptr<FileJudge>()> makeJudge;
     };
@@ -51,8 +49,6 @@ public:
     Q_INVOKABLE void open(const QString& folderId);
     /// Looks once more.
     Q_INVOKABLE void look();
-    /// Tidies the folder, closes the sheet, and tells what came of it.
-    Q_INVOKABLE void run();
 
     [[nodiscard]] QString title() const;
     [[nodiscard]] int tint() const { return tint_; }
@@ -69,6 +65,7 @@ public:
     void setFate(int fate);
     [[nodiscard]] QString filterText() const { return filter_; }
     void setFilterText(const QString& words);
+    /// Whether a run would do anything, or Dobbin would be asked in it.
     [[nodiscard]] bool canRun() const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
