@@ -19,7 +19,8 @@ T.Button {
     property string disabledReason
 
     readonly property bool filled: kind === "primary" || kind === "dobbin"
-    readonly property color ink: kind === "primary" ? Theme.onAccent : kind === "dobbin" ? Theme.onDobbin : kind === "link" ? Theme.accent : kind === "destructive" ? Theme.error : kind === "quiet" ? Theme.text2 : Theme.text1
+    readonly property color ink: enabled ? fullInk : Theme.faded(fullInk, Theme.bg)
+    readonly property color fullInk: kind === "primary" ? Theme.onAccent : kind === "dobbin" ? Theme.onDobbin : kind === "link" ? Theme.accent : kind === "destructive" ? Theme.error : kind === "quiet" ? Theme.text2 : Theme.text1
     readonly property var style: small ? (filled ? Theme.captionStrong : Theme.captionMedium) : filled ? Theme.bodyStrong : Theme.bodyMedium
     readonly property bool hasSymbol: iconName !== "" || glyph !== ""
     readonly property int symbolSize: small ? 14 : 16
@@ -33,7 +34,6 @@ T.Button {
     rightPadding: leftPadding
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    opacity: enabled ? 1 : Theme.disabledOpacity
     Keys.priority: Keys.BeforeItem
     Keys.onPressed: event => event.accepted = busy && event.key === Qt.Key_Space
     Keys.onReturnPressed: event => pressWith(event)
@@ -42,13 +42,13 @@ T.Button {
     function pressWith(event) {
         event.accepted = event.modifiers === Qt.NoModifier || event.modifiers === Qt.KeypadModifier;
         if (event.accepted && !busy)
-            click();
+            clicked();
     }
 
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.description: enabled ? "" : disabledReason
-    Accessible.onPressAction: if (!busy) click()
+    Accessible.onPressAction: if (!busy) clicked()
 
     contentItem: Item {
         implicitWidth: control.symbolRoom + Math.ceil(measure.advanceWidth) + control.chevronRoom
@@ -117,6 +117,7 @@ T.Button {
     }
 
     background: ButtonFill {
+        opacity: control.enabled ? 1 : Theme.disabledOpacity
         kind: control.kind
         radius: control.radius
         hovered: control.hovered && !control.busy

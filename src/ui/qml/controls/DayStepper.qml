@@ -30,7 +30,9 @@ T.SpinBox {
         regularExpression: /^.{0,24}$/
     }
     onValueModified: modified(value)
-    Keys.onPressed: event => {
+    Keys.onPressed: event => stepWith(event)
+
+    function stepWith(event) {
         const step = event.text === "+" ? 1 : event.text === "-" || event.text === "−" ? -1 : 0;
         event.accepted = step !== 0;
         if (step !== 0)
@@ -69,6 +71,7 @@ T.SpinBox {
         validator: control.validator
         inputMethodHints: control.inputMethodHints
         clip: true
+        Keys.onPressed: event => control.stepWith(event)
         Accessible.ignored: true
     }
 

@@ -31,13 +31,13 @@ T.Button {
     function pressWith(event) {
         event.accepted = event.modifiers === Qt.NoModifier || event.modifiers === Qt.KeypadModifier;
         if (event.accepted && !busy)
-            click();
+            clicked();
     }
 
     Accessible.role: Accessible.Button
     Accessible.name: label
     Accessible.description: enabled ? "" : disabledReason
-    Accessible.onPressAction: if (!busy) click()
+    Accessible.onPressAction: if (!busy) clicked()
 
     HitArea {
         id: hitArea

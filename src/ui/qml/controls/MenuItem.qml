@@ -21,7 +21,7 @@ T.MenuItem {
     Accessible.name: text
     Accessible.checkable: checkable
     Accessible.checked: checked
-    Accessible.onPressAction: click()
+    Accessible.onPressAction: triggered()
 
     contentItem: Item {
         Icon {

@@ -37,13 +37,22 @@ T.ComboBox {
         return item ? item.model[iconRole] || "" : "";
     }
 
-    Keys.onReturnPressed: event => pressWith(event)
-    Keys.onEnterPressed: event => pressWith(event)
+    // The release of the key would choose from a menu that its press opened.
+    property bool opensOnRelease: false
 
-    function pressWith(event) {
-        event.accepted = event.modifiers === Qt.NoModifier && !popup.visible;
+    function isReturn(event) {
+        return event.modifiers === Qt.NoModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter);
+    }
+
+    Keys.onPressed: event => {
+        opensOnRelease = isReturn(event) && !popup.visible;
+        event.accepted = opensOnRelease;
+    }
+    Keys.onReleased: event => {
+        event.accepted = opensOnRelease && isReturn(event);
         if (event.accepted)
             popup.open();
+        opensOnRelease = false;
     }
 
     Accessible.role: Accessible.ComboBox

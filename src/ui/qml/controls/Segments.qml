@@ -24,12 +24,12 @@ Rectangle {
 
     function choose(index, byKey) {
         const kept = Math.max(0, Math.min(repeater.count - 1, index));
+        if (byKey)
+            repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
         if (kept !== currentIndex) {
             currentIndex = kept;
             activated(kept);
         }
-        if (byKey)
-            repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
     }
 
     Row {

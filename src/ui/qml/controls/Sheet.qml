@@ -40,7 +40,7 @@ FocusScope {
 
     function pressPrimary() {
         if (primary && primary.enabled && primary.visible)
-            primary.click();
+            primary.clicked();
     }
 
     /// The sheet that an item lies in, if any.

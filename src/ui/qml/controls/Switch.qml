@@ -13,7 +13,6 @@ T.Switch {
     padding: 0
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    opacity: enabled ? 1 : Theme.disabledOpacity
     containmentMask: hitArea
 
     Accessible.role: Accessible.CheckBox
@@ -36,7 +35,9 @@ T.Switch {
         width: control.width
         height: control.height
         radius: control.radius
-        color: control.checked ? Theme.accent : Theme.switchOff
+        color: control.enabled ? fill : Theme.faded(fill, Theme.bg)
+
+        readonly property color fill: control.checked ? Theme.accent : Theme.switchOff
 
         Behavior on color {
             ColorAnimation {
@@ -51,7 +52,7 @@ T.Switch {
             width: 16
             height: 16
             radius: 8
-            color: control.checked ? Theme.knobOn : Theme.knob
+            color: control.checked && (control.enabled || !Theme.isDark) ? Theme.knobOn : control.enabled ? Theme.knob : Theme.faded(Theme.knob, Theme.bg)
 
             Behavior on x {
                 enabled: !control.pressed

@@ -20,12 +20,12 @@ Row {
 
     function choose(index, byKey) {
         const kept = (index + words.length) % words.length;
+        if (byKey)
+            repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
         if (kept !== currentIndex) {
             current = words[kept];
             chosen(words[kept]);
         }
-        if (byKey)
-            repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
     }
 
     Repeater {

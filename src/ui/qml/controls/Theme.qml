@@ -200,6 +200,13 @@ QtObject {
         return reducesMotion ? 0 : duration;
     }
 
+    /// What a colour becomes on a surface that is no longer to be pressed.
+    function faded(color, beneath) {
+        const part = disabledOpacity;
+        const mixed = (one, other) => one * part + other * (1 - part);
+        return Qt.rgba(mixed(color.r, beneath.r), mixed(color.g, beneath.g), mixed(color.b, beneath.b), 1);
+    }
+
     readonly property int focusWidth: isHighContrast ? 3 : 2
     readonly property int focusGap: 2
     readonly property real disabledOpacity: 0.45

@@ -16,7 +16,6 @@ T.CheckBox {
     focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : Theme.disabledOpacity
     containmentMask: hitArea
-    nextCheckState: () => checkState === Qt.Checked ? Qt.Unchecked : Qt.Checked
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: label

@@ -11,12 +11,12 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     containmentMask: hitArea
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     Accessible.role: Accessible.Button
     Accessible.name: text
-    Accessible.onPressAction: click()
+    Accessible.onPressAction: clicked()
 
     HitArea {
         id: hitArea
