@@ -25,18 +25,18 @@ ListView {
 
         width: ListView.view.width
         height: Theme.rowPopover
-        focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
+        focusPolicy: ListView.isCurrentItem || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
         hoverEnabled: true
         onClicked: App.entries.reveal(key)
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
         Keys.onUpPressed: go(index - 1)
         Keys.onDownPressed: go(index + 1)
 
         Accessible.role: Accessible.ListItem
         Accessible.name: fileName
         Accessible.description: [secondLine, timeText].join(", ")
-        Accessible.onPressAction: click()
+        Accessible.onPressAction: clicked()
 
         function go(index) {
             const view = ListView.view;
