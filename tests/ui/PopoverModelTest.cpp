@@ -48,7 +48,7 @@ TEST_F(PopoverModelTest, TellsWhenEachFolderIsTidiedNext) {
 
 TEST_F(PopoverModelTest, SaysWhichFoldersNeedALook) {
     model.setShown(true);
-    EXPECT_EQ(model.statusText(), u"No folders yet"_s);
+    EXPECT_EQ(model.statusText(), u"Nothing to tidy yet"_s);
     const QUuid fine = bench.addFolder("fine");
     EXPECT_EQ(model.statusText(), u"Everything is in order"_s);
     bench.addFolder("gone");

@@ -4,9 +4,9 @@
 #include "model/Uuid.h"
 #include "store/Undo.h"
 #include "ui/CountTexts.h"
-#include "ui/FileKindWord.h"
 #include "ui/FolderLook.h"
 #include "ui/TimeTexts.h"
+#include "ui/folders/ActivityEntry.h"
 
 #include <QCoreApplication>
 
@@ -123,15 +123,15 @@ private:
 
     HistoryRow rowOf(const LogEntry& entry) const {
         HistoryRow row = commonRow(entry);
-        row.entryId = uuidText(entry.id);
-        row.key = row.entryId;
-        row.title = entry.fileName;
-        row.kind = fileKindWord(entry.fileName);
-        row.secondLine = entry.ruleName.isEmpty() ? entry.actionSummary
-                                                  : entry.ruleName + u" · "_s + entry.actionSummary;
-        row.canReveal = entry.currentPath || entry.trashedPath || entry.originalPath;
-        row.canUndo = canBeUndone(entry);
-        row.isError = entry.isError;
+        const ActivityEntry shown = activityEntry(entry, source_.now);
+        row.entryId = shown.key;
+        row.key = shown.key;
+        row.title = shown.fileName;
+        row.kind = shown.kind;
+        row.secondLine = shown.secondLine;
+        row.canReveal = shown.canReveal;
+        row.canUndo = shown.canUndo;
+        row.isError = shown.isError;
         row.isUndoing = row.canUndo && entry.batchID && source_.undoing.contains(*entry.batchID);
         return row;
     }

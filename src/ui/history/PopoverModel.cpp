@@ -94,11 +94,6 @@ void PopoverModel::openSettings() {
     Q_EMIT settingsRequested();
 }
 
-void PopoverModel::addFolder() {
-    openMainWindow();
-    Q_EMIT addFolderRequested();
-}
-
 void PopoverModel::endRun(const RunReport& report) {
     const auto run = runs_.find(report.folderID);
     if (run == runs_.end() || report.number < run->second.number)
@@ -132,7 +127,7 @@ void PopoverModel::refresh() {
         statusText_ =
             tr("Something went wrong lately", "with a folder that is not watched any more");
     else if (folders.empty())
-        statusText_ = tr("No folders yet");
+        statusText_ = tr("Nothing to tidy yet");
     else
         statusText_ = store_.isPaused() ? tr("Paused — nothing runs automatically")
                                         : tr("Everything is in order");

@@ -51,15 +51,12 @@ public:
     Q_INVOKABLE void openMainWindow();
     Q_INVOKABLE void openFolder(const QString& folderID);
     Q_INVOKABLE void openSettings();
-    /// In the main window.
-    Q_INVOKABLE void addFolder();
 
 Q_SIGNALS:
     void changed();
     void closeRequested();
     void openMainWindowRequested();
     void settingsRequested();
-    void addFolderRequested();
 
 private:
     /// A run that was asked for here.

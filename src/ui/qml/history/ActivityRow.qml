@@ -24,7 +24,7 @@ T.Control {
     /// Shown in a column of its own when there is one.
     property string folderName
     property color folderColor: Theme.text3
-    property int folderColumn: Theme.scaled(108)
+    property int folderColumn: Theme.scaled(120)
     property int timeColumn: Theme.scaled(36)
     /// Of the rows of a list, the current one alone is a stop of the Tab key.
     property bool isTabStop: !ListView.view || ListView.isCurrentItem
@@ -36,7 +36,7 @@ T.Control {
 
     implicitHeight: Theme.rowActivity
     implicitWidth: 400
-    focusPolicy: isTabStop ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isTabStop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: false
 
     Accessible.role: Accessible.ListItem
@@ -68,7 +68,7 @@ T.Control {
         id: errorTile
         visible: row.isError
         anchors.left: parent.left
-        anchors.leftMargin: 14
+        anchors.leftMargin: 15
         anchors.verticalCenter: parent.verticalCenter
         size: row.tileSize
         color: Theme.errorSoft
@@ -91,6 +91,7 @@ T.Control {
         anchors.right: folder.left
         anchors.rightMargin: Theme.s3
         anchors.bottom: parent.verticalCenter
+        anchors.bottomMargin: -1
         text: row.fileName
         style: Theme.bodyMedium
         elide: Text.ElideMiddle
@@ -100,7 +101,7 @@ T.Control {
     Label {
         anchors.left: name.left
         anchors.right: name.right
-        anchors.top: parent.verticalCenter
+        anchors.top: name.bottom
         text: row.secondLine
         style: Theme.caption
         color: row.isError ? Theme.error : Theme.text2
@@ -165,6 +166,7 @@ T.Control {
         Row {
             Button {
                 kind: "link"
+                small: true
                 text: qsTr("Reveal")
                 opacity: row.canReveal ? 1 : 0
                 enabled: row.canReveal
@@ -176,6 +178,7 @@ T.Control {
 
             Button {
                 kind: "link"
+                small: true
                 text: qsTr("Undo")
                 busy: row.undoing
                 opacity: row.canUndo ? 1 : 0

@@ -23,7 +23,7 @@ T.Control {
     signal stopAsked
 
     implicitHeight: Theme.rowActivity
-    focusPolicy: isTabStop ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isTabStop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
 
     Accessible.role: Accessible.ListItem
     Accessible.name: title
@@ -49,7 +49,7 @@ T.Control {
     Tile {
         id: tile
         anchors.left: parent.left
-        anchors.leftMargin: 14
+        anchors.leftMargin: 15
         anchors.verticalCenter: parent.verticalCenter
         color: Theme.accentSoft
         iconName: "edit-clear-all"
@@ -61,15 +61,17 @@ T.Control {
         anchors.left: tile.right
         anchors.leftMargin: Theme.s3
         anchors.bottom: parent.verticalCenter
-        width: Math.min(implicitWidth, time.x - x - 40)
+        anchors.bottomMargin: -1
+        anchors.right: time.left
+        anchors.rightMargin: Theme.s8
         text: row.title
         style: Theme.bodyMedium
         Accessible.ignored: true
     }
 
     Glyph {
-        anchors.left: name.right
-        anchors.leftMargin: 6
+        anchors.left: name.left
+        anchors.leftMargin: name.contentWidth + 6
         anchors.verticalCenter: name.verticalCenter
         name: "chevron"
         size: 10
@@ -88,7 +90,7 @@ T.Control {
         anchors.left: name.left
         anchors.right: time.left
         anchors.rightMargin: Theme.s3
-        anchors.top: parent.verticalCenter
+        anchors.top: name.bottom
         text: row.secondLine
         style: Theme.caption
         color: Theme.text2
@@ -109,7 +111,7 @@ T.Control {
     Button {
         id: undo
         anchors.right: parent.right
-        anchors.rightMargin: 10
+        anchors.rightMargin: 11
         anchors.verticalCenter: parent.verticalCenter
         visible: row.canUndo || row.isUndoing
         small: true

@@ -45,8 +45,8 @@ FocusScope {
     Item {
         id: piece
         anchors.fill: parent
-        anchors.leftMargin: Theme.s6
-        anchors.rightMargin: Theme.s6
+        anchors.leftMargin: Theme.s6 - 1
+        anchors.rightMargin: Theme.s6 - 1
         clip: !(delegate.isFirst && delegate.isLast)
 
         Rectangle {

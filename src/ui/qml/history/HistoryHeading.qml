@@ -13,7 +13,7 @@ Rectangle {
     Label {
         id: name
         anchors.left: parent.left
-        anchors.leftMargin: Theme.s6 + 2
+        anchors.leftMargin: Theme.s6 + 1
         anchors.baseline: parent.bottom
         anchors.baselineOffset: -13
         text: heading.day ? heading.day.heading : ""

@@ -91,11 +91,18 @@ Sheet {
 
         HistoryList {
             id: list
+            // Beside the outline of the sheet.
+            anchors.leftMargin: 1
+            anchors.rightMargin: 1
             anchors.top: line.bottom
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: parent.bottom
             focus: true
+        }
+
+        ScrollBar {
+            flickable: list
         }
 
         EmptyState {
@@ -140,6 +147,8 @@ Sheet {
     footer: Button {
         id: doneButton
         kind: "primary"
+        leftPadding: 21
+        rightPadding: 21
         text: qsTr("Done")
         onClicked: sheet.closeRequested()
     }

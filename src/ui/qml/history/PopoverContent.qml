@@ -112,6 +112,10 @@ FocusScope {
         focus: !content.isEmpty
     }
 
+    ScrollBar {
+        flickable: folders
+    }
+
     EmptyState {
         visible: content.isEmpty
         anchors.left: parent.left
@@ -125,7 +129,10 @@ FocusScope {
             iconName: "list-add"
             text: qsTr("Add Folder")
             focus: content.isEmpty
-            onClicked: App.popover.addFolder()
+            onClicked: {
+                App.popover.openMainWindow();
+                App.folders.chooseNew();
+            }
         }
     }
 
@@ -159,6 +166,7 @@ FocusScope {
             anchors.rightMargin: 6
             y: 6
             kind: "link"
+            small: true
             text: qsTr("See all")
             onClicked: {
                 App.popover.openMainWindow();

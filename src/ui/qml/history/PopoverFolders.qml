@@ -39,7 +39,7 @@ ListView {
             go(event.key === Qt.Key_Home ? 0 : count - 1);
     }
 
-    delegate: T.ItemDelegate {
+    delegate: FocusScope {
         id: row
 
         required property int index
@@ -55,9 +55,6 @@ ListView {
 
         width: ListView.view.width
         height: Theme.rowPopover
-        focusPolicy: Qt.NoFocus
-        hoverEnabled: true
-        onClicked: App.popover.openFolder(key)
 
         Accessible.role: Accessible.ListItem
         Accessible.name: name
@@ -69,12 +66,19 @@ ListView {
                 App.popover.run(key);
         }
 
-        background: Rectangle {
+        T.AbstractButton {
+            id: surface
             anchors.fill: parent
             anchors.leftMargin: 6
             anchors.rightMargin: 6
-            radius: Theme.rRow
-            color: row.hovered ? Theme.hover : "transparent"
+            focusPolicy: Qt.NoFocus
+            hoverEnabled: true
+            onClicked: App.popover.openFolder(row.key)
+            Accessible.ignored: true
+            background: Rectangle {
+                radius: Theme.rRow
+                color: surface.hovered ? Theme.hover : "transparent"
+            }
         }
 
         FolderTile {
@@ -122,7 +126,7 @@ ListView {
             busy: row.isRunning
             enabled: row.canRun
             focus: true
-            focusPolicy: row.ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
+            focusPolicy: row.ListView.isCurrentItem || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             label: qsTr("Run %1 now").arg(row.name)
             disabledReason: row.statusText
             onClicked: {
