@@ -33,8 +33,8 @@ void RuleListModel::show(const QUuid& folderID) {
                     .name = rule.name,
                     .iconName = rule.actions.empty() ? u"list-add"_s
                                                      : actionIcon(rule.actions.front().type),
-                    .condition = sentence.section(u" → "_s, 0, 0),
-                    .action = sentence.section(u" → "_s, 1),
+                    .conditionText = sentence.section(u" → "_s, 0, 0),
+                    .actionText = sentence.section(u" → "_s, 1),
                     .warnings = validationWarnings(rule),
                     .asksDobbin = rule.needsDobbin(),
                     .isEnabled = rule.isEnabled};

@@ -11,8 +11,8 @@ struct RuleRow {
     Q_PROPERTY(QString key MEMBER key)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString iconName MEMBER iconName)
-    Q_PROPERTY(QString condition MEMBER condition)
-    Q_PROPERTY(QString action MEMBER action)
+    Q_PROPERTY(QString conditionText MEMBER conditionText)
+    Q_PROPERTY(QString actionText MEMBER actionText)
     Q_PROPERTY(QStringList warnings MEMBER warnings)
     Q_PROPERTY(bool asksDobbin MEMBER asksDobbin)
     Q_PROPERTY(bool isEnabled MEMBER isEnabled)
@@ -21,9 +21,9 @@ struct RuleRow {
 public:
     QString key = {}; ///< its id
     QString name = {};
-    QString iconName = {};  ///< of its first action
-    QString condition = {}; ///< its sentence up to the arrow
-    QString action = {};    ///< and after it
+    QString iconName = {};      ///< of its first action
+    QString conditionText = {}; ///< its sentence up to the arrow
+    QString actionText = {};    ///< and after it
     QStringList warnings = {};
     bool asksDobbin = false;
     bool isEnabled = true;
