@@ -1,9 +1,6 @@
 """What a screen reader sees of an application: its tree over the accessibility bus."""
 
-import gi
-
-gi.require_version("Gio", "2.0")
-from gi.repository import Gio, GLib  # noqa: E402
+from gi.repository import Gio, GLib
 
 PREFIX = "org.a11y.atspi."
 STATES = {"checked": 4, "enabled": 8, "expanded": 10, "focusable": 11, "focused": 12,
@@ -96,13 +93,12 @@ class Bus:
     """The accessibility bus of a desktop."""
 
     def __init__(self, desktop):
-        flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-                 | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
-        session = Gio.DBusConnection.new_for_address_sync(
-            desktop.environment["DBUS_SESSION_BUS_ADDRESS"], flags, None, None)
+        session = desktop.session
         address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
                                     None, None, Gio.DBusCallFlags.NONE, -1, None).unpack()[0]
-        self.connection = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+        self.connection = Gio.DBusConnection.new_for_address_sync(
+            address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
         self.focused = None
         self.connection.signal_subscribe(
             None, PREFIX + "Event.Object", "StateChanged", None, "focused",

@@ -10,6 +10,8 @@ import tempfile
 import time
 from pathlib import Path
 
+from gi.repository import Gio, GLib
+
 PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
   <property name="configver" type="int" value="2"/>
@@ -65,6 +67,7 @@ class Desktop:
         self.has_tray = has_tray
         self.size = size
         self.children = []
+        self.secrets = None
         self.root = Path(tempfile.mkdtemp(prefix="quillon-journey-"))
         self.home = self.root / "home"
         self.environment = {}
@@ -143,6 +146,30 @@ class Desktop:
         log.close()
         self.children.append(child)
         return child
+
+    @property
+    def session(self):
+        flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+                 | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+        return Gio.DBusConnection.new_for_address_sync(
+            self.environment["DBUS_SESSION_BUS_ADDRESS"], flags, None, None)
+
+    def has_service(self, name):
+        return self.session.call_sync(
+            "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameHasOwner",
+            GLib.Variant("(s)", (name,)), None, Gio.DBusCallFlags.NONE, -1, None).unpack()[0]
+
+    def keyring(self, password=None):
+        """Starts the keyring, in place of the one that runs: open, or locked without a password."""
+        if self.secrets:
+            self.secrets.terminate()
+            self.secrets.wait()
+            until(lambda: not self.has_service("org.freedesktop.secrets"), "the keyring's end")
+        self.secrets = self.spawn("gnome-keyring-daemon", "--foreground", "--components=secrets",
+                                  *(["--unlock"] if password else []), stdin=subprocess.PIPE)
+        self.secrets.stdin.write((password or "").encode())
+        self.secrets.stdin.close()
+        until(lambda: self.has_service("org.freedesktop.secrets"), "a keyring")
 
     def output(self, *command):
         return subprocess.run(command, env=self.environment, capture_output=True, text=True,

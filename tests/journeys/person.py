@@ -166,6 +166,29 @@ class Person:
             self.focus_on("list item", item, key="Down")
             self.press("Return")
 
+    def choose_item(self, item):
+        """Takes an item of the menu that is open."""
+        if self.is_mouse:
+            self.click("menu item", item)
+        else:
+            self.focus_on("menu item", item, key="Down")
+            self.press("Return")
+
+    def choose_folder(self, name):
+        """Shows a folder of the sidebar."""
+        self.see("list item", name)
+        if self.is_mouse:
+            self.click("list item", name)
+        else:
+            self.focus_on("list item", name)
+
+    def start_rule(self):
+        if self.is_mouse:
+            self.click("push button", "New Rule")
+        else:
+            self.press("ctrl+n")
+        self.see("dialog", re.compile("rule", re.I))
+
     def choose_path(self, path):
         """Answers the desktop's own dialogue for files."""
         field = self.see("text", re.compile("^(Directory|Folder|File( name)?):$"))
