@@ -26,6 +26,9 @@ Sheet {
     Component.onCompleted: Qt.callLater(focusFirst)
 
     function focusFirst() {
+        // What has the focus is scrolled into view, and for that everything must have its place.
+        for (const column of [conditions, actions, body])
+            column.forceLayout();
         if (editor.isNew && describe.canWrite)
             describe.focusField();
         else
@@ -115,6 +118,10 @@ Sheet {
             hasOffer: sheet.editor.hasOffer
             onOfferTaken: sheet.editor.takeOffer()
             onOfferDropped: sheet.editor.dropOffer()
+            onCanWriteChanged: {
+                if (!canWrite && sheet.editor.isNew && !sheet.editor.isChanged)
+                    sheet.focusFirst();
+            }
         }
 
         Item {
