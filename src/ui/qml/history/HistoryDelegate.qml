@@ -31,6 +31,13 @@ FocusScope {
 
     implicitHeight: Theme.rowActivity
 
+    /// A view that moves on gives the focus without a reason, so that none would be shown.
+    function takeFocusByKey() {
+        forceActiveFocus(Qt.TabFocusReason);
+        const part = isBatch ? head.item : row;
+        part.focusReason = Qt.TabFocusReason;
+    }
+
     TapHandler {
         onPressedChanged: {
             if (!pressed)
@@ -70,6 +77,7 @@ FocusScope {
     }
 
     ActivityRow {
+        id: row
         anchors.fill: piece
         visible: !delegate.isBatch
         focus: !delegate.isBatch
@@ -98,6 +106,7 @@ FocusScope {
     }
 
     Loader {
+        id: head
         anchors.fill: piece
         active: delegate.isBatch
         focus: delegate.isBatch

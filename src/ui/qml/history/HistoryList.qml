@@ -37,7 +37,7 @@ ListView {
 
     onCurrentItemChanged: {
         if (currentItem && activeFocus && isByKeys)
-            currentItem.forceActiveFocus(Qt.TabFocusReason);
+            currentItem.takeFocusByKey();
     }
 
     function go(index) {
@@ -49,7 +49,7 @@ ListView {
         const hidden = contentY + heading - currentItem.y;
         if (hidden > 0)
             contentY = Math.max(originY, contentY - hidden);
-        currentItem.forceActiveFocus(Qt.TabFocusReason);
+        currentItem.takeFocusByKey();
     }
 
     readonly property int page: Math.max(1, Math.floor(height / Theme.rowActivity) - 1)

@@ -42,6 +42,7 @@ ListView {
             const view = ListView.view;
             view.currentIndex = Math.max(0, Math.min(view.count - 1, index));
             view.currentItem.forceActiveFocus(Qt.TabFocusReason);
+            view.currentItem.focusReason = Qt.TabFocusReason;
         }
 
         background: Rectangle {

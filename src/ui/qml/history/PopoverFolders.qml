@@ -24,6 +24,7 @@ ListView {
         currentIndex = Math.max(0, Math.min(count - 1, index));
         positionViewAtIndex(currentIndex, ListView.Contain);
         currentItem.run.forceActiveFocus(Qt.TabFocusReason);
+        currentItem.run.focusReason = Qt.TabFocusReason;
     }
 
     function runCurrent() {
