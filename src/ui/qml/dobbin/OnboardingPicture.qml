@@ -6,8 +6,8 @@ Item {
     id: picture
 
     property real radius: 0
-    readonly property color top: Qt.darker(Theme.tint(1), Theme.isDark ? 1.6 : 1.1)
-    readonly property color bottom: Qt.darker(Theme.tint(1), Theme.isDark ? 2.1 : 1.45)
+    readonly property color above: Qt.darker(Theme.tint(1), Theme.isDark ? 1.6 : 1.1)
+    readonly property color below: Qt.darker(Theme.tint(1), Theme.isDark ? 2.1 : 1.45)
 
     clip: true
 
@@ -18,11 +18,11 @@ Item {
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: picture.top
+                color: picture.above
             }
             GradientStop {
                 position: 1
-                color: picture.bottom
+                color: picture.below
             }
         }
     }
