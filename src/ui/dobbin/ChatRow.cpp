@@ -30,16 +30,10 @@ QVariantMap shown(const LogEntry& entry, const Log& log) {
             {u"canUndo"_s, now && now->canUndo()}};
 }
 
-/// What the label leaves out.
-QString detailOf(const DobbinAction& action) {
-    if (action.description)
-        return *action.description;
-    return action.ruleID ? Texts::tr("in %1", "a folder").arg(action.folderName) : QString();
-}
-
 QVariantMap shown(const DobbinAction& action) {
-    return {
-        {u"label"_s, action.label()}, {u"detail"_s, detailOf(action)}, {u"isDone"_s, action.done}};
+    return {{u"label"_s, action.label()},
+            {u"detail"_s, action.description.value_or(QString())},
+            {u"isDone"_s, action.done}};
 }
 
 } // namespace

@@ -59,6 +59,7 @@ Card {
         Button {
             visible: card.entry.canReveal
             kind: "link"
+            small: true
             text: qsTr("Reveal")
             focusPolicy: card.reach
             Accessible.name: qsTr("Reveal %1").arg(card.entry.fileName)
@@ -68,6 +69,7 @@ Card {
         Button {
             visible: card.entry.canUndo
             kind: "link"
+            small: true
             text: qsTr("Undo")
             focusPolicy: card.reach
             Accessible.name: qsTr("Undo %1").arg(card.entry.fileName)

@@ -66,19 +66,11 @@ T.Control {
         anchors.rightMargin: Theme.s4
         spacing: Theme.s3
 
-        TextEdit {
+        Label {
             width: parent.width
             text: turn.isUser ? "" : turn.text
-            textFormat: TextEdit.PlainText
-            wrapMode: TextEdit.Wrap
-            readOnly: true
-            selectByMouse: true
-            activeFocusOnPress: false
             color: turn.isError ? Theme.error : Theme.text1
-            selectionColor: Theme.accent
-            selectedTextColor: Theme.onAccent
-            font.family: Theme.fontFamily
-            font.pixelSize: Theme.body.size
+            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
 

@@ -24,7 +24,7 @@ Item {
         anchors.left: parent.left
         anchors.leftMargin: 17
         anchors.right: side.left
-        anchors.rightMargin: Theme.s5
+        anchors.rightMargin: Theme.s3 + 2
         anchors.verticalCenter: parent.verticalCenter
         spacing: 1
 

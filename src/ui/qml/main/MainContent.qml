@@ -108,8 +108,10 @@ Item {
 
     Item {
         id: toastRoom
-        anchors.left: onboarding.active ? parent.left : sidebar.right
-        anchors.right: onboarding.active ? parent.right : chat.left
+        anchors.left: parent.left
+        anchors.leftMargin: onboarding.active ? 0 : sidebar.width
+        anchors.right: parent.right
+        anchors.rightMargin: onboarding.active || content.chatLiesOver ? 0 : chat.width
         height: parent.height
         z: 2
 
