@@ -10,7 +10,7 @@ FocusScope {
 
     visible: question.isOpen
     z: 10
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: Accessible.Dialog
     Accessible.name: question.title
     Accessible.description: question.text
 
