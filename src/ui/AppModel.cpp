@@ -119,7 +119,10 @@ AppModel::AppModel(const Surroundings& around, QObject* parent)
                    .toasts = toasts_,
                    .onDevice = *settings_.onDevice(),
                    .home = around.services.platform().folders.home,
-                   .places = userPlaces}) {}
+                   .places = userPlaces}) {
+    connect(settings_.claude(), &ClaudeSettings::changed, this,
+            [this] { suggestions_.setWanted(settings_.claude()->suggestRules()); });
+}
 
 AppModel::~AppModel() = default;
 

@@ -67,6 +67,11 @@ void SuggestionListModel::refresh() {
     untilLook_ = around_.timers.after(pauseInChanges, [this] { look(); });
 }
 
+void SuggestionListModel::setWanted(bool wanted) {
+    if (std::exchange(areWanted_, wanted) != wanted)
+        refresh();
+}
+
 void SuggestionListModel::look() {
     untilLook_.reset();
     const WatchedFolder* const folder = around_.store.folder(folderID_);

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace quillon {
 
@@ -57,8 +58,10 @@ public:
     Q_INVOKABLE void add(const QString& key);
     /// It is not offered any more.
     Q_INVOKABLE void dismiss(const QString& key);
-    /// Looks again soon, such as after the setting was changed.
-    Q_INVOKABLE void refresh();
+    /// Looks again soon.
+    void refresh();
+    /// Whether the user wants any, as they have said now.
+    void setWanted(bool wanted);
 
     [[nodiscard]] int count() const { return rowCount(); }
 
@@ -74,7 +77,8 @@ private:
     QUuid folderID_;
     std::vector<Rule> rules_; ///< of the folder when it was last looked at
     std::vector<RuleSuggestion> found_;
-    std::shared_ptr<bool> isWanted_;
+    std::shared_ptr<bool> isWanted_; ///< what is being looked for
+    std::optional<bool> areWanted_;
     std::unique_ptr<Timer> untilLook_;
 };
 
