@@ -2,6 +2,8 @@
 #include "Scene.h"
 #include "model/Uuid.h"
 
+#include <QTimer>
+
 #include <filesystem>
 
 namespace quillon::testing {
@@ -71,22 +73,48 @@ Scene cleanupWithFailure() {
             }};
 }
 
+void makeMany(const SampleHome& home) {
+    for (int i = 0; i < 20'000; ++i)
+        makeFile(home.at("Downloads/Old file " + std::to_string(i) + ".txt"), i, 60 + i % 300);
+}
+
 Scene manyFiles() {
-    Scene scene{.name = u"cleanup-many"_s, .arrange = [](Stage& stage) {
-                    for (int i = 0; i < 20'000; ++i)
-                        makeFile(stage.home.at("Downloads/Old file " + std::to_string(i) + ".txt"),
-                                 i, 60 + i % 300);
-                    stage.model.cleanup()->open(idOf(stage, u"Downloads"_s));
-                }};
+    Scene scene = cleanupOf(u"cleanup-many"_s, u"Downloads"_s);
+    scene.arrange = [open = scene.arrange](Stage& stage) {
+        makeMany(stage.home);
+        open(stage);
+    };
     scene.settling = 4s;
+    return scene;
+}
+
+/// So many files that the picture is taken before the last has been moved.
+Scene tidyingMany() {
+    Scene scene = manyFiles();
+    scene.name = u"cleanup-tidying"_s;
+    scene.arrange = [open = scene.arrange](Stage& stage) {
+        open(stage);
+        whenReady(*stage.model.cleanup(), u"review"_s, tidyAll);
+    };
+    scene.settling = 1500ms;
+    return scene;
+}
+
+/// Looks again and again, so that it is looking when the picture is taken.
+Scene looking() {
+    Scene scene = cleanupOf(u"cleanup-looking"_s, u"Downloads"_s);
+    scene.arrange = [open = scene.arrange](Stage& stage) {
+        open(stage);
+        auto* const again = new QTimer(stage.model.cleanup());
+        QObject::connect(again, &QTimer::timeout, stage.model.cleanup(), &CleanupModel::look);
+        again->start(1ms);
+    };
     return scene;
 }
 
 } // namespace
 
 std::vector<Scene> reviewScenes() {
-    Scene looking = cleanupOf(u"cleanup-looking"_s, u"Downloads"_s);
-    looking.settling = 0ms;
     return {
         cleanup(u"cleanup"_s,
                 [](CleanupModel& model) {
@@ -99,18 +127,9 @@ std::vector<Scene> reviewScenes() {
                     tidyAll(model);
                     whenReady(model, u"result"_s, [](CleanupModel& done) { done.keep(); });
                 }),
-        cleanup(u"cleanup-tidying"_s,
-                [](CleanupModel& model) {
-                    QMetaObject::invokeMethod(
-                        &model,
-                        [&model] {
-                            model.tidy();
-                            model.stop();
-                        },
-                        Qt::QueuedConnection);
-                }),
+        tidyingMany(),
         cleanupWithFailure(),
-        looking,
+        looking(),
         manyFiles(),
         cleanupOf(u"cleanup-none"_s, u"Receipts"_s),
         cleanupOf(u"cleanup-denied"_s, u"Team Drive"_s),

@@ -114,8 +114,10 @@ void CleanupModel::look() {
 }
 
 void CleanupModel::listed(Expected<ReadyFiles> files) {
-    if (!files)
-        return setState(State::failed);
+    if (!files) {
+        setState(State::failed);
+        return showRecipes();
+    }
     ready_ = std::make_shared<const ReadyFiles>(*std::move(files));
     order_.clear();
     unticked_.assign(ready_->files.size(), false);
@@ -336,14 +338,20 @@ std::size_t CleanupModel::ticked() const {
 QString CleanupModel::emptyText() const {
     if (state_ != State::review || files_.rowCount() > 0)
         return {};
-    const auto& groups = files_.contents().groups;
-    const auto isEmpty = [](const CleanupGroup& group) { return group.files.empty(); };
-    if (std::ranges::all_of(groups, isEmpty))
+    if (hasNothing())
         return tr("%1 is already tidy. Nothing matches these recipes.").arg(folder_.name());
     if (!filter_.isEmpty() && chosenBits() != 0)
         return tr("No files match.");
-    return chosenBits() == 0 ? tr("Tick a recipe to see its files.")
-                             : tr("Nothing matches the recipes that are ticked.");
+    return chosenBits() == 0
+               ? tr("Tick a recipe to see its files.")
+               : tr("%1 is already tidy. Nothing matches the recipes that are ticked.")
+                     .arg(folder_.name());
+}
+
+bool CleanupModel::hasNothing() const {
+    return state_ == State::review &&
+           std::ranges::all_of(files_.contents().groups,
+                               [](const CleanupGroup& group) { return group.files.empty(); });
 }
 
 QString CleanupModel::tickedText() const {

@@ -32,6 +32,7 @@ class CleanupModel final : public QObject {
     Q_PROPERTY(QAbstractItemModel* files READ files CONSTANT)
     Q_PROPERTY(QString filterText READ filterText WRITE setFilterText NOTIFY changed)
     Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
+    Q_PROPERTY(bool hasNothing READ hasNothing NOTIFY changed)
     Q_PROPERTY(QString tickedText READ tickedText NOTIFY changed)
     Q_PROPERTY(QString noteText READ noteText NOTIFY changed)
     Q_PROPERTY(bool canTidy READ canTidy NOTIFY changed)
@@ -96,6 +97,8 @@ public:
     void setFilterText(const QString& words);
     /// Why no files are shown.
     [[nodiscard]] QString emptyText() const;
+    /// Whether no recipe, ticked or not, would take any file.
+    [[nodiscard]] bool hasNothing() const;
     /// "37 files ticked · 3.8 GB"
     [[nodiscard]] QString tickedText() const;
     [[nodiscard]] QString noteText() const;

@@ -91,6 +91,7 @@ Item {
 
     Rectangle {
         id: keeping
+        visible: App.cleanup.hasFiled
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.leftMargin: Theme.s8

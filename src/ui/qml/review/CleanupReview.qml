@@ -10,6 +10,12 @@ FocusScope {
         filter.selectAll();
     }
 
+    Keys.onPressed: event => {
+        event.accepted = event.matches(StandardKey.SelectAll);
+        if (event.accepted)
+            App.cleanup.tickAll();
+    }
+
     Divider {
         width: parent.width
     }
@@ -84,11 +90,6 @@ FocusScope {
             id: files
             anchors.fill: parent
             visible: count > 0
-            Keys.onPressed: event => {
-                event.accepted = event.matches(StandardKey.SelectAll);
-                if (event.accepted)
-                    App.cleanup.tickAll();
-            }
         }
 
         ScrollBar {

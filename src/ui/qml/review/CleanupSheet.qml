@@ -44,6 +44,8 @@ Sheet {
     Loader {
         id: view
         anchors.fill: parent
+        // Without a title its place is of use, too.
+        anchors.topMargin: sheet.isReview ? -5 : -(Theme.s6 + Theme.s8 + Theme.s4)
         focus: true
         sourceComponent: sheet.isReview ? reviewView : sheet.isBusy ? progressView : sheet.step === "result" ? outcomeView : null
     }
@@ -68,17 +70,15 @@ Sheet {
         CleanupOutcome {}
     }
 
-    destructive: Button {
-        Layout.leftMargin: 13
-        visible: App.cleanup.canUndo
-        iconName: "edit-undo"
-        text: qsTr("Undo")
-        onClicked: App.cleanup.undo()
-    }
-
     note: [
+        Button {
+            visible: App.cleanup.canUndo
+            iconName: "edit-undo"
+            text: qsTr("Undo")
+            onClicked: App.cleanup.undo()
+        },
         Label {
-            visible: text !== ""
+            visible: text !== "" && !App.cleanup.hasNothing
             text: App.cleanup.tickedText
             style: Theme.bodyMedium
         },
@@ -91,7 +91,7 @@ Sheet {
 
     footer: [
         Button {
-            visible: sheet.isReview
+            visible: sheet.isReview && !App.cleanup.hasNothing
             text: qsTr("Cancel")
             onClicked: sheet.closeRequested()
         },
@@ -105,7 +105,8 @@ Sheet {
         Button {
             id: tidyButton
             kind: "primary"
-            visible: sheet.isReview
+            Layout.minimumWidth: 74
+            visible: sheet.isReview && !App.cleanup.hasNothing
             enabled: App.cleanup.canTidy
             text: qsTr("Tidy")
             onClicked: App.cleanup.tidy()
@@ -113,7 +114,8 @@ Sheet {
         Button {
             id: doneButton
             kind: "primary"
-            visible: sheet.step === "result"
+            Layout.minimumWidth: 74
+            visible: sheet.step === "result" || App.cleanup.hasNothing
             text: qsTr("Done")
             onClicked: sheet.closeRequested()
         }

@@ -17,8 +17,8 @@ Card {
     Accessible.name: key
     Accessible.description: sentence
 
-    function takeFocus() {
-        addButton.forceActiveFocus(Qt.TabFocusReason);
+    function takeFocus(reason) {
+        addButton.forceActiveFocus(reason);
     }
 
     Tile {

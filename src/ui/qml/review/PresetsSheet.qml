@@ -19,14 +19,14 @@ Sheet {
         }
     }
     onCloseRequested: App.sheets.close()
-    Component.onCompleted: focusNext()
+    Component.onCompleted: focusNext(Qt.PopupFocusReason)
 
     /// The first that can be added.
-    function focusNext() {
+    function focusNext(reason) {
         for (let i = 0; i < cards.count; ++i)
             if (!cards.itemAt(i).isAdded)
-                return cards.itemAt(i).takeFocus();
-        doneButton.forceActiveFocus(Qt.TabFocusReason);
+                return cards.itemAt(i).takeFocus(reason);
+        doneButton.forceActiveFocus(reason);
     }
 
     Grid {
@@ -44,7 +44,7 @@ Sheet {
 
             PresetCard {
                 width: (grid.width - grid.spacing) / 2
-                onAdded: sheet.focusNext()
+                onAdded: sheet.focusNext(Qt.TabFocusReason)
             }
         }
     }
@@ -59,6 +59,7 @@ Sheet {
     footer: Button {
         id: doneButton
         kind: "primary"
+        Layout.minimumWidth: 74
         text: qsTr("Done")
         onClicked: sheet.closeRequested()
     }

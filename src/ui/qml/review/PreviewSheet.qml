@@ -59,6 +59,7 @@ Sheet {
 
         RowLayout {
             id: headings
+            opacity: list.count > 0 ? 1 : 0
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: fates.bottom

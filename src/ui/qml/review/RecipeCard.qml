@@ -46,6 +46,7 @@ FocusScope {
         onTapped: {
             tick.forceActiveFocus(Qt.MouseFocusReason);
             App.cleanup.chooseRecipe(card.index, !card.isChosen);
+            card.lookedAt();
         }
     }
 
@@ -60,6 +61,7 @@ FocusScope {
         description: [card.sentence, card.warning, card.countText].filter(text => text !== "").join(" ")
         onToggled: {
             App.cleanup.chooseRecipe(card.index, checkState === Qt.Checked);
+            card.lookedAt();
             checkState = Qt.binding(() => card.isChosen ? Qt.Checked : Qt.Unchecked);
         }
     }
@@ -115,8 +117,14 @@ FocusScope {
             Accessible.ignored: true
         }
 
+        Item {
+            visible: extras.visible
+            width: 1
+            height: Theme.s2
+        }
+
         Row {
-            topPadding: visible ? Theme.s2 : 0
+            id: extras
             visible: card.hasDays || card.warning !== ""
             spacing: Theme.s2
 
@@ -131,8 +139,7 @@ FocusScope {
             }
 
             Badge {
-                anchors.verticalCenter: undefined
-                y: Theme.s2 + (Theme.scaled(24) - height) / 2
+                anchors.verticalCenter: parent.verticalCenter
                 visible: card.warning !== ""
                 kind: "warn"
                 text: card.warning
