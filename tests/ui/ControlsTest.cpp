@@ -120,6 +120,18 @@ TEST_F(ControlsTest, AreWorkedByTheKeyboard) {
          {Qt::Key_Return, Qt::Key_Down, Qt::Key_Return, Qt::Key_Space, Qt::Key_Down,
           Qt::Key_Escape},
          {u"1"_s}},
+        {"a menu by arrows and letters, and by nothing that is disabled",
+         "Item { anchors.fill: parent; Menu { id: menu; Component.onCompleted: Qt.callLater(open)\n"
+         "MenuItem { text: 'Edit…'; onTriggered: { hear('edit'); Qt.callLater(menu.open) } }"
+         "MenuItem { text: 'Duplicate'; enabled: false; onTriggered: hear('duplicate') }"
+         "MenuDivider {}"
+         "Menu { title: 'Copy to'; MenuItem { text: 'Desktop'; onTriggered: { hear('desktop'); "
+         "menu.open() } } }"
+         "MenuItem { text: 'Delete'; onTriggered: { hear('delete'); Qt.callLater(menu.open) } } } "
+         "}",
+         {Qt::Key_Down, Qt::Key_Return, Qt::Key_D, Qt::Key_Space, Qt::Key_C, Qt::Key_Right,
+          Qt::Key_Return, Qt::Key_Escape},
+         {u"edit"_s, u"delete"_s, u"desktop"_s}},
     };
     for (const Keys& row : table) {
         SCOPED_TRACE(row.what);

@@ -120,7 +120,7 @@ T.Button {
         opacity: control.enabled ? 1 : Theme.disabledOpacity
         kind: control.kind
         radius: control.radius
-        hovered: control.hovered && !control.busy
+        hovered: control.hovered && control.enabled && !control.busy
         pressed: control.down && !control.busy
     }
 
@@ -135,8 +135,12 @@ T.Button {
     }
 
     ToolTip {
-        text: control.enabled ? control.toolTip : control.disabledReason
-        shortcutText: control.enabled ? control.shortcutText : ""
+        text: control.toolTip
+        shortcutText: control.shortcutText
         visible: control.hovered && text !== ""
+    }
+
+    DisabledTip {
+        reason: control.disabledReason
     }
 }

@@ -65,7 +65,7 @@ T.Button {
     background: ButtonFill {
         kind: control.kind
         radius: control.radius
-        hovered: control.hovered && !control.busy
+        hovered: control.hovered && control.enabled && !control.busy
         pressed: control.down && !control.busy || control.checked
         color: control.fillColor.a > 0 && !hovered && !pressed ? control.fillColor : control.kind === "secondary" && !hovered && !pressed ? Theme.card : hovered || pressed ? Theme.hover : "transparent"
     }
@@ -81,8 +81,12 @@ T.Button {
     }
 
     ToolTip {
-        text: control.enabled || control.disabledReason === "" ? control.label : control.disabledReason
-        shortcutText: control.enabled ? control.shortcutText : ""
+        text: control.label
+        shortcutText: control.shortcutText
         visible: control.hovered && text !== ""
+    }
+
+    DisabledTip {
+        reason: control.disabledReason
     }
 }

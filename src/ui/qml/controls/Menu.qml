@@ -30,6 +30,24 @@ T.Menu {
         clip: interactive
         currentIndex: menu.currentIndex
         boundsBehavior: Flickable.StopAtBounds
+        Keys.onPressed: event => {
+            const letter = event.modifiers & ~Qt.ShiftModifier ? "" : event.text.trim().toLowerCase();
+            event.accepted = letter !== "" && menu.goTo(letter);
+        }
+    }
+
+    /// The next item that begins with that letter becomes the current one.
+    function goTo(letter) {
+        for (let step = 1; step <= count; ++step) {
+            const index = (Math.max(0, currentIndex) + step) % count;
+            const item = itemAt(index);
+            if (item && item.enabled && item.visible && item.text && item.text.toLowerCase().startsWith(letter)) {
+                currentIndex = index;
+                item.forceActiveFocus(Qt.TabFocusReason);
+                return true;
+            }
+        }
+        return false;
     }
 
     background: MenuSurface {}

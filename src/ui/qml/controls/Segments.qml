@@ -71,6 +71,8 @@ Rectangle {
                 }
 
                 Accessible.role: Accessible.RadioButton
+                // A control goes back to a role of its own when a screen reader comes.
+                Accessible.onRoleChanged: if (Accessible.role !== Accessible.RadioButton) Accessible.role = Accessible.RadioButton
                 Accessible.name: control.label === "" ? text : control.label + " " + text
                 Accessible.checkable: true
                 Accessible.checked: chosen

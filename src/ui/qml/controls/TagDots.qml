@@ -62,6 +62,8 @@ Row {
             }
 
             Accessible.role: Accessible.RadioButton
+            // A control goes back to a role of its own when a screen reader comes.
+            Accessible.onRoleChanged: if (Accessible.role !== Accessible.RadioButton) Accessible.role = Accessible.RadioButton
             Accessible.name: text
             Accessible.checkable: true
             Accessible.checked: isChosen
