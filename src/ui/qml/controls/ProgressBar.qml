@@ -17,6 +17,8 @@ T.ProgressBar {
     background: Rectangle {
         radius: 2
         color: Theme.hover
+        border.width: Theme.isHighContrast ? 1 : 0
+        border.color: Theme.line
     }
 
     contentItem: Item {
@@ -28,6 +30,15 @@ T.ProgressBar {
             radius: 2
             color: Theme.accent
             visible: control.indeterminate || control.position > 0
+
+            NumberAnimation on x {
+                running: control.indeterminate && control.visible && !Theme.reducesMotion
+                loops: Animation.Infinite
+                from: 0
+                to: control.width - done.width
+                duration: Math.max(1, Theme.think)
+                easing.type: Easing.InOutSine
+            }
 
             Behavior on width {
                 enabled: !control.indeterminate

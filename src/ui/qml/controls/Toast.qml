@@ -16,6 +16,7 @@ Rectangle {
         state = "";
         state = "shown";
         clock.restart();
+        announcement.say(sentence);
     }
 
     function hide() {
@@ -32,12 +33,14 @@ Rectangle {
     border.color: Theme.isHighContrast ? Theme.onToast : Theme.lineStrong
     opacity: 0
     visible: opacity > 0
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: sentence
     Keys.onEscapePressed: hide()
 
     Shadow {
         elevation: 2
+    }
+
+    Announcement {
+        id: announcement
     }
 
     HoverHandler {
