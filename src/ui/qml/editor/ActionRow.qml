@@ -23,6 +23,7 @@ EditorRow {
 
     PillPicker {
         id: typePicker
+        anchors.left: parent.left
         inRow: true
         width: Math.max(206, implicitWidth)
         label: qsTr("Action")
@@ -106,6 +107,7 @@ EditorRow {
 
             PillPicker {
                 id: picker
+                anchors.left: parent.left
                 inRow: true
                 width: Math.max(150, implicitWidth)
                 label: qsTr("Sort by")
@@ -155,6 +157,7 @@ EditorRow {
 
             PillPicker {
                 id: picker
+                anchors.left: parent.left
                 inRow: true
                 enabled: count > 0
                 width: Math.min(Math.max(206, implicitWidth), parent.width)

@@ -13,7 +13,8 @@ Button {
     kind: "link"
     iconName: "list-add"
     text: qsTr("Add Action")
-    rightPadding: 26
+    leftPadding: mirrored ? 26 : 10
+    rightPadding: mirrored ? 10 : 26
     Accessible.role: Accessible.ButtonMenu
     onClicked: open()
 

@@ -24,6 +24,7 @@ EditorRow {
 
     PillPicker {
         id: attributePicker
+        anchors.left: parent.left
         inRow: true
         width: Math.max(150, implicitWidth)
         label: qsTr("Attribute")
@@ -129,6 +130,7 @@ EditorRow {
 
             PillPicker {
                 id: picker
+                anchors.left: parent.left
                 inRow: true
                 width: Math.max(150, implicitWidth)
                 label: qsTr("Kind")

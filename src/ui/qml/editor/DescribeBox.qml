@@ -33,6 +33,7 @@ Rectangle {
         spacing: Theme.s2
 
         Row {
+            width: parent.width
             spacing: Theme.s2
 
             Glyph {

@@ -1,5 +1,6 @@
 import QtQml
 import QtQuick
+import QtQuick.Layouts
 import QtQuick.Templates as T
 import Quillon
 
@@ -16,8 +17,8 @@ T.AbstractButton {
     signal browse
 
     implicitHeight: Theme.controlInRow
-    leftPadding: 10
-    rightPadding: 0
+    leftPadding: mirrored ? 0 : 10
+    rightPadding: mirrored ? 10 : 0
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     onClicked: menu.open()
@@ -29,6 +30,8 @@ T.AbstractButton {
     }
 
     Accessible.role: Accessible.ComboBox
+    // A control goes back to a role of its own when a screen reader comes.
+    Accessible.onRoleChanged: if (Accessible.role !== Accessible.ComboBox) Accessible.role = Accessible.ComboBox
     Accessible.name: qsTr("Folder")
     Accessible.description: control.isChosen ? control.destination.name + ", " + control.destination.place : words.text
     Accessible.onPressAction: menu.open()
@@ -37,32 +40,35 @@ T.AbstractButton {
         color: control.hovered || control.down ? Theme.hover : Theme.card
     }
 
-    contentItem: Item {
-        FolderTile {
-            id: tile
-            anchors.left: parent.left
-            anchors.verticalCenter: parent.verticalCenter
-            visible: control.isChosen && control.destination.tint >= 0
-            size: 20
-            radius: Theme.rSmall
-            iconSize: 12
-            tint: visible ? control.destination.tint : 0
-            symbol: control.destination.symbol ?? ""
-        }
+    contentItem: RowLayout {
+        spacing: Theme.s2
 
-        Icon {
-            anchors.centerIn: tile
-            visible: !tile.visible
-            name: "folder"
-            color: control.isChosen ? Theme.text2 : Theme.text3
+        Item {
+            implicitWidth: 20
+            implicitHeight: 20
+
+            FolderTile {
+                id: tile
+                visible: control.isChosen && control.destination.tint >= 0
+                size: 20
+                radius: Theme.rSmall
+                iconSize: 12
+                tint: visible ? control.destination.tint : 0
+                symbol: control.destination.symbol ?? ""
+            }
+
+            Icon {
+                anchors.centerIn: parent
+                visible: !tile.visible
+                name: "folder"
+                color: control.isChosen ? Theme.text2 : Theme.text3
+            }
         }
 
         Label {
             id: words
-            anchors.left: tile.right
-            anchors.leftMargin: Theme.s2
-            anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, browseButton.x - x - Theme.s2)
+            Layout.maximumWidth: implicitWidth
+            Layout.fillWidth: true
             text: control.isChosen ? control.destination.name : qsTr("Choose a folder")
             style: control.isChosen ? Theme.bodyMedium : Theme.body
             color: control.isChosen ? Theme.text1 : Theme.text3
@@ -70,11 +76,7 @@ T.AbstractButton {
         }
 
         Label {
-            anchors.left: words.right
-            anchors.leftMargin: Theme.s2
-            anchors.right: browseButton.left
-            anchors.verticalCenter: parent.verticalCenter
-            visible: control.isChosen
+            Layout.fillWidth: true
             text: control.destination.place ?? ""
             color: Theme.text3
             elide: Text.ElideMiddle
@@ -82,9 +84,6 @@ T.AbstractButton {
         }
 
         Button {
-            id: browseButton
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
             kind: "link"
             text: qsTr("Choose…")
             Accessible.name: qsTr("Choose a folder")

@@ -23,6 +23,7 @@ Item {
 
         Row {
             id: row
+            width: parent.width
             spacing: Theme.s2
 
             Field {

@@ -62,6 +62,7 @@ Rectangle {
         }
 
         DisclosureLine {
+            anchors.left: parent.left
             visible: bar.isComplete
             text: bar.probe.text
             isError: bar.probe.isError
