@@ -118,7 +118,7 @@ Rectangle {
                 model: [[true, true], [false, true], [true, false]]
                 Switch {
                     required property var modelData
-                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.verticalCenter: parent ? parent.verticalCenter : undefined
                     checked: modelData[0]
                     enabled: modelData[1]
                     label: "File invoices"
@@ -128,7 +128,7 @@ Rectangle {
                 model: [Qt.Checked, Qt.PartiallyChecked, Qt.Unchecked]
                 TickBox {
                     required property int modelData
-                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.verticalCenter: parent ? parent.verticalCenter : undefined
                     checkState: modelData
                     label: "All files"
                 }
