@@ -141,6 +141,7 @@ std::vector<Scene> dobbinScenes() {
                  }),
         settings(u"settings-keyring-locked"_s,
                  [](Stage& stage) {
+                     keyring("secret").stop();
                      keyring({});
                      choose(stage, u"ai.useClaude"_s, u"true"_s);
                  }),
@@ -156,7 +157,12 @@ std::vector<Scene> dobbinScenes() {
         onboarding(u"onboarding-welcome"_s, 0),
         onboarding(u"onboarding"_s, 1),
         onboarding(u"onboarding-denied"_s, 1,
-                   [](Stage& stage) { ::chmod(stage.home.at("Desktop").c_str(), 0); }),
+                   [](Stage& stage) {
+                       const std::string desktop = stage.home.at("Desktop");
+                       ::chmod(desktop.c_str(), 0);
+                       QObject::connect(&stage.model, &QObject::destroyed,
+                                        [desktop] { ::chmod(desktop.c_str(), 0755); });
+                   }),
         onboarding(u"onboarding-quiet"_s, 2),
         onboarding(u"onboarding-dobbin"_s, 3),
         onboarding(u"onboarding-dobbin-missing"_s, 3,

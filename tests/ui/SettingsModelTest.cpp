@@ -130,7 +130,7 @@ TEST_F(SettingsModelTest, ChecksAKeyBeforeItIsKept) {
     ClaudeSettings& claude = *model.claude();
     look();
     claude.setUseClaude(true);
-    EXPECT_EQ(claude.note(), u"Until it's saved, Dobbin keeps using phi4:latest."_s);
+    EXPECT_EQ(claude.keyCaption(), u"Until it's saved, Dobbin keeps using phi4:latest."_s);
     EXPECT_TRUE(claude.isEntering());
     save(u"  "_s);
     EXPECT_EQ(claude.keyError(), u"Add your Claude API key in Settings → Dobbin → Advanced."_s);

@@ -77,19 +77,19 @@ QString ClaudeSettings::keyCaption() const {
         return tr("Your keyring is locked. Unlock it to use Claude.");
     if (hasKey())
         return tr("Saved in your keyring");
-    return keyringError_.isEmpty() ? tr("It’s checked first, and kept in your keyring.")
-                                   : keyringError_;
+    if (!keyringError_.isEmpty())
+        return keyringError_;
+    return useClaude() ? tr("Until it's saved, Dobbin keeps using %1.").arg(card_.name())
+                       : tr("It’s checked first, and kept in your keyring.");
 }
 
 QString ClaudeSettings::note() const {
     if (!error_.isEmpty())
         return error_;
-    if (isKeySaved_)
-        return useClaude() ? tr("Key saved. Dobbin is now using Claude.")
-                           : tr("Key saved. Switch on Use Claude for Dobbin to use it.");
-    return useClaude() && !hasKey()
-               ? tr("Until it's saved, Dobbin keeps using %1.").arg(card_.name())
-               : QString();
+    if (!isKeySaved_)
+        return {};
+    return useClaude() ? tr("Key saved. Dobbin is now using Claude.")
+                       : tr("Key saved. Switch on Use Claude for Dobbin to use it.");
 }
 
 void ClaudeSettings::saveKey(const QString& typed) {

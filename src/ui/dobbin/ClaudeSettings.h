@@ -60,7 +60,7 @@ public:
     [[nodiscard]] bool isSaving() const { return isSaving_; }
     /// A key is asked for: there is none, or it is to be replaced.
     [[nodiscard]] bool isEntering() const { return isReplacing_ || (!hasKey() && !isLocked_); }
-    /// What came of the last change, or what is missing for Claude to be used.
+    /// What came of the last change.
     [[nodiscard]] QString note() const;
     [[nodiscard]] bool isNoteGood() const { return isKeySaved_; }
 

@@ -103,7 +103,10 @@ void OnboardingModel::lookAt(std::vector<UserPlace> places, bool isChosen) {
             for (const UserPlace& place : places) {
                 Look::Found found{.place = place, .access = probeAccess(fileSystem, place.path)};
                 if (const auto listing = fileSystem.list(place.path, {}))
-                    found.files = listing->files.size();
+                    found.files = std::size_t(
+                        std::ranges::count_if(listing->files, [](const ListedFile& file) {
+                            return file.status.type != FileType::directory;
+                        }));
                 look->found.push_back(found);
             }
         },

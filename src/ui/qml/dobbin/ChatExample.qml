@@ -9,7 +9,7 @@ T.Button {
     property int radius: height / 2
 
     implicitHeight: Theme.controlSmall
-    implicitWidth: Math.min(words.implicitWidth + 20, parent ? parent.width : 240)
+    implicitWidth: Math.min(words.implicitWidth, parent ? parent.width : 240)
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button

@@ -12,7 +12,8 @@ Item {
     /// Of the window's corners.
     property int radius: 0
     readonly property int fullWidth: Theme.scaled(320)
-    readonly property bool hasFocus: content.activeFocus
+    /// Where the focus goes back to.
+    property Item cameFrom
 
     implicitWidth: fullWidth
     width: App.chat.isOpen ? fullWidth : 0
@@ -38,6 +39,12 @@ Item {
 
     Connections {
         target: App.chat
+        function onIsOpenChanged() {
+            if (App.chat.isOpen)
+                panel.cameFrom = panel.Window.activeFocusItem;
+            else if (content.activeFocus && panel.cameFrom)
+                panel.cameFrom.forceActiveFocus(Qt.OtherFocusReason);
+        }
         function onFocusRequested() {
             panel.focusField();
         }

@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Quillon
 
 /// What one of the two has said.
-T.Control {
+T.ItemDelegate {
     id: turn
 
     required property int index

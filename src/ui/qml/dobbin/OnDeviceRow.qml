@@ -41,6 +41,7 @@ Rectangle {
         spacing: 1
 
         Row {
+            width: parent.width
             spacing: Theme.s2
 
             Label {

@@ -14,6 +14,7 @@ Column {
 
     Label {
         visible: heading.showsStep
+        width: parent.width
         text: qsTr("Step %1 of %2").arg(App.onboarding.step + 1).arg(App.onboarding.steps)
         style: Theme.microStrong
         color: Theme.text2
@@ -29,6 +30,7 @@ Column {
     }
 
     Label {
+        anchors.left: parent.left
         width: Math.min(parent.width, Theme.scaled(440))
         topPadding: Theme.s2 + 2
         bottomPadding: Theme.s6

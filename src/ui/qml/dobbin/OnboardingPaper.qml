@@ -34,8 +34,8 @@ Rectangle {
             width: paper.width * modelData
             height: paper.height * 0.05
             radius: height / 2
-            color: paper.ink
-            opacity: 0.16
+            color: Theme.tint(7)
+            opacity: 0.18
             antialiasing: true
         }
     }

@@ -160,7 +160,7 @@ Item {
                     width: 38
                     height: 20
                     radius: 6
-                    color: Qt.darker(Theme.tint(modelData.tint), 1.2)
+                    color: Qt.darker(Theme.tint(modelData.tint), Theme.isDark ? 1.25 : 1.05)
                 }
 
                 Rectangle {
@@ -168,7 +168,7 @@ Item {
                     width: parent.width
                     height: 65
                     radius: 9
-                    color: Qt.lighter(Theme.tint(modelData.tint), 1.15)
+                    color: Qt.tint(Theme.tint(modelData.tint), Qt.rgba(1, 1, 1, Theme.isDark ? 0 : 0.14))
 
                     Icon {
                         anchors.centerIn: parent

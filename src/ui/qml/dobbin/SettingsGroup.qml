@@ -12,7 +12,9 @@ Column {
     spacing: 6
 
     Label {
+        width: parent.width
         leftPadding: Theme.s1
+        rightPadding: Theme.s1
         text: group.title
         style: Theme.captionStrong
         color: Theme.text2

@@ -37,7 +37,7 @@ Window {
     }
 
     Shortcut {
-        sequences: ["Esc", "Ctrl+W"]
+        sequence: "Ctrl+W"
         onActivated: window.close()
     }
 
@@ -45,6 +45,7 @@ Window {
         anchors.fill: parent
         radius: window.isSquare ? 0 : Theme.rCard
         color: Theme.bg
+        Keys.onEscapePressed: window.close()
 
         RoundedSide {
             id: side
@@ -150,7 +151,7 @@ Window {
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 2
             contentWidth: width
-            contentHeight: page.height + 4 + Theme.s4
+            contentHeight: page.height + 4 + Theme.s2
             clip: contentHeight > height
             boundsBehavior: Flickable.StopAtBounds
 
