@@ -18,7 +18,7 @@ struct ChatRow {
     Q_PROPERTY(QString day MEMBER day)
     Q_PROPERTY(bool isUser MEMBER isUser)
     Q_PROPERTY(bool isError MEMBER isError)
-    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(QString said MEMBER text)
     Q_PROPERTY(QString spoken MEMBER spoken)
     Q_PROPERTY(QVariantList entries MEMBER entries)
     Q_PROPERTY(QVariantList changes MEMBER changes)

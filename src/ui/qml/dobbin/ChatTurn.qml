@@ -10,7 +10,7 @@ T.ItemDelegate {
     required property string key
     required property bool isUser
     required property bool isError
-    required property string text
+    required property string said
     required property string spoken
     required property var entries
     required property var changes
@@ -51,7 +51,7 @@ T.ItemDelegate {
             x: Theme.s3
             y: Theme.s2
             width: Math.min(implicitWidth, Theme.scaled(240) - 2 * Theme.s3)
-            text: turn.isUser ? turn.text : ""
+            text: turn.isUser ? turn.said : ""
             wrapMode: Text.Wrap
             Accessible.ignored: true
         }
@@ -68,7 +68,7 @@ T.ItemDelegate {
 
         Label {
             width: parent.width
-            text: turn.isUser ? "" : turn.text
+            text: turn.isUser ? "" : turn.said
             color: turn.isError ? Theme.error : Theme.text1
             wrapMode: Text.Wrap
             Accessible.ignored: true
