@@ -13,15 +13,16 @@ namespace quillon {
 
 namespace {
 
-/// The first of the places that is there, or else the nearest folder above the first of them.
+/// The first of the places that is there, or else the first of them, or of the folders above it,
+/// that lies in a folder that is there.
 std::string nearest(const FileSystem& fileSystem, const std::vector<std::string>& places) {
     for (const std::string& place : places)
         if (fileSystem.status(place))
             return place;
-    std::filesystem::path folder = places.front();
-    while (folder.has_relative_path() && !fileSystem.status(folder.string()))
-        folder = folder.parent_path();
-    return folder.string();
+    std::filesystem::path gone = places.front();
+    while (gone.has_relative_path() && !fileSystem.status(gone.parent_path().string()))
+        gone = gone.parent_path();
+    return gone.string();
 }
 
 } // namespace

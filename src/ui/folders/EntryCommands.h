@@ -28,7 +28,7 @@ public:
 
     explicit EntryCommands(const Surroundings& around, QObject* parent = nullptr);
 
-    /// Shows the file where it is now, or else the nearest folder that led to it.
+    /// Shows the file where it is now, or else the folder that it was in.
     Q_INVOKABLE void reveal(const QString& entryID);
     /// Puts the file back, and tells what came of it.
     Q_INVOKABLE void undo(const QString& entryID);

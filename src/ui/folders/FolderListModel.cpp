@@ -5,6 +5,7 @@
 #include "ui/FolderLook.h"
 #include "ui/editor/EditedRows.h"
 #include "ui/editor/FolderChoices.h"
+#include "ui/folders/FolderStyles.h"
 
 #include <QPointer>
 
@@ -110,8 +111,12 @@ void FolderListModel::addFolders(const QStringList& paths, int row) {
         if (const WatchedFolder* const known = store.folderAt(path)) {
             store.setSelectedFolderID(known->id);
             around_.toasts.show(tr("%1 is watched already").arg(known->name()));
-        } else if (const auto added = store.addFolder(path); added && row >= 0) {
-            moveTo(uuidText(*added), std::min(row++, rowCount() - 1));
+        } else if (const auto added = store.addFolder(path)) {
+            const QString symbol = suitingSymbol(store.folder(*added)->path);
+            if (symbol != u"folder")
+                store.setSymbol(symbol, *added);
+            if (row >= 0)
+                moveTo(uuidText(*added), std::min(row++, rowCount() - 1));
         }
     }
 }

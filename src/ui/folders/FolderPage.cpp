@@ -311,7 +311,8 @@ void FolderPage::refreshDetails() {
     if (fileCount_)
         facts.append(fileCount(*fileCount_));
     const auto& logs = around_.store.recentLogs();
-    const auto newest = std::ranges::find(logs, std::optional<QUuid>(shown->id), &LogEntry::folderID);
+    const auto newest =
+        std::ranges::find(logs, std::optional<QUuid>(shown->id), &LogEntry::folderID);
     if (isRunning())
         facts.append(tr("Tidying…"));
     else if (newest != logs.end())

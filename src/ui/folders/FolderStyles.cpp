@@ -1,9 +1,11 @@
 #include "ui/folders/FolderStyles.h"
 
 #include <QCoreApplication>
+#include <QStandardPaths>
 #include <QVariantMap>
 
 #include <array>
+#include <utility>
 
 namespace quillon {
 
@@ -49,6 +51,24 @@ QVariantList folderSymbols() {
         list.append(QVariantMap{{u"name"_s, QString::fromUtf8(symbol.name)},
                                 {u"label"_s, Texts::tr(symbol.label)}});
     return list;
+}
+
+QString suitingSymbol(const QString& path) {
+    static constexpr auto places =
+        std::to_array<std::pair<QStandardPaths::StandardLocation, const char*>>({
+            {QStandardPaths::DownloadLocation, "folder-download"},
+            {QStandardPaths::DesktopLocation, "user-desktop"},
+            {QStandardPaths::DocumentsLocation, "folder-documents"},
+            {QStandardPaths::PicturesLocation, "folder-pictures"},
+            {QStandardPaths::MusicLocation, "folder-music"},
+            {QStandardPaths::MoviesLocation, "folder-videos"},
+        });
+    const QString home = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
+    for (const auto& [location, symbol] : places)
+        if (path != home && path == QStandardPaths::writableLocation(location))
+            return QString::fromUtf8(symbol);
+    const bool isRemovable = path.startsWith(u"/media/"_s) || path.startsWith(u"/run/media/"_s);
+    return isRemovable ? u"drive-removable-media"_s : u"folder"_s;
 }
 
 } // namespace quillon

@@ -107,14 +107,13 @@ FocusScope {
         y: Math.max(tile.y + tile.height, name.y + name.height + Theme.s4) + 14
         height: wraps ? 2 * Theme.control + Theme.s2 : Theme.control
 
-        readonly property bool wraps: timingLabel.width + timing.width + tools.width + Theme.s6 > width
+        readonly property bool wraps: (header.isCompact ? 0 : timingLabel.width) + timing.width + tools.width + Theme.s6 > width
 
         Label {
             id: timingLabel
             anchors.left: parent.left
             height: Theme.control
             visible: !header.isCompact
-            width: visible ? implicitWidth : 0
             text: qsTr("When to tidy")
             style: Theme.caption
             color: Theme.text2
@@ -123,8 +122,8 @@ FocusScope {
 
         PillPicker {
             id: timing
-            anchors.left: timingLabel.right
-            anchors.leftMargin: timingLabel.visible ? 18 : 0
+            anchors.left: header.isCompact ? parent.left : timingLabel.right
+            anchors.leftMargin: header.isCompact ? 0 : 18
             label: qsTr("When to tidy")
             iconName: "clock"
             model: App.page.timings

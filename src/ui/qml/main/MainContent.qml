@@ -27,7 +27,7 @@ Item {
             width: Math.min(Theme.scaled(232), 300)
             height: parent.height
             radius: content.radius
-            carried: carried
+            carried: hand
         }
 
         FolderDetail {
@@ -37,8 +37,8 @@ Item {
             height: parent.height
             visible: App.page.hasFolder
             endMargin: content.chatIsOpen && !content.chatLiesOver ? Theme.s5 : Theme.s6
-            roomForButtons: content.chatIsOpen && !content.chatLiesOver ? 0 : windowButtons.width + Theme.s4 + 34 - endMargin
-            carried: carried
+            roomForButtons: Math.max(0, windowButtons.width + Theme.s4 + 34 - endMargin - (content.chatLiesOver ? 0 : chat.width))
+            carried: hand
         }
 
         NoFolders {
@@ -90,7 +90,7 @@ Item {
     }
 
     RuleInHand {
-        id: carried
+        id: hand
         z: 2
         onMoved: (x, y) => {
             sidebar.carryRule(x, y);

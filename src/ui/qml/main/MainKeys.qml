@@ -128,7 +128,7 @@ Item {
 
     Shortcut {
         sequence: "Ctrl+,"
-        onActivated: App.popover.openSettings()
+        onActivated: App.settings.open()
     }
 
     Shortcut {

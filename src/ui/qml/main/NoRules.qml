@@ -7,7 +7,7 @@ Item {
 
     readonly property Item newRule: newRuleButton
 
-    height: column.implicitHeight + Theme.s12 + (suggestions.item ? suggestions.height + Theme.s6 : 0)
+    height: column.implicitHeight + Theme.s12 + (suggestions.visible ? suggestions.height + Theme.s8 : 0)
 
     EmptyState {
         id: column
@@ -108,13 +108,11 @@ Item {
         }
     }
 
-    Loader {
+    SuggestionRows {
         id: suggestions
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.top: column.bottom
         anchors.topMargin: Theme.s8
         width: Math.min(460, parent.width)
-        active: !App.page.hasRules
-        source: "qrc:/Quillon/review/SuggestionRows.qml"
     }
 }

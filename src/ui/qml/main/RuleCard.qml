@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Quillon
 
 /// A rule: its sentence, what is wrong with it, and whether it is on.
-T.AbstractButton {
+T.ItemDelegate {
     id: card
 
     required property int index
@@ -88,7 +88,7 @@ T.AbstractButton {
         property bool isPressed: false
 
         anchors.left: parent.left
-        anchors.leftMargin: Theme.s2
+        anchors.leftMargin: 9
         y: 20
         width: 12
         height: 18
@@ -252,7 +252,7 @@ T.AbstractButton {
     Switch {
         id: toggle
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: 15
         y: 19
         label: card.name
         checked: card.isEnabled

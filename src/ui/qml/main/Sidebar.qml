@@ -86,7 +86,7 @@ Item {
     FolderList {
         id: list
         anchors.top: title.bottom
-        anchors.topMargin: 6
+        anchors.topMargin: 7
         anchors.bottom: line.top
         width: parent.width
         ruleName: sidebar.carried.name
@@ -137,7 +137,7 @@ Item {
                 iconName: "configure"
                 label: qsTr("Settings")
                 shortcutText: "Ctrl+,"
-                onClicked: App.popover.openSettings()
+                onClicked: App.settings.open()
             }
         }
     }

@@ -90,7 +90,7 @@ T.ItemDelegate {
         anchors.right: badge.left
         anchors.rightMargin: Theme.s2
         anchors.bottom: parent.verticalCenter
-        anchors.bottomMargin: -1
+        anchors.bottomMargin: -3
         text: row.name
         style: row.isSelected ? Theme.bodyStrong : Theme.bodyMedium
         Accessible.ignored: true
@@ -100,7 +100,7 @@ T.ItemDelegate {
         anchors.left: nameLabel.left
         anchors.right: nameLabel.right
         anchors.top: parent.verticalCenter
-        anchors.topMargin: 1
+        anchors.topMargin: 2
         text: row.isTarget ? qsTr("Copy “%1” here").arg(row.ListView.view.ruleName) : row.caption
         style: Theme.microPlain
         color: row.isTrouble && !row.isTarget ? Theme.warn : Theme.text2
