@@ -105,7 +105,7 @@ std::vector<LogEntry> samplePast(const std::string& home, const std::vector<Watc
              u"move failed: No space left on device"_s)
         .isError = true;
     for (int i = 0; i < 2; ++i)
-        past.moved(past.add(27h + i * 26h, u"Downloads"_s, u"Invoice-2026-%1.pdf"_s.arg(1177 - i),
+        past.moved(past.add(50h + i * 26h, u"Downloads"_s, u"Invoice-2026-%1.pdf"_s.arg(1177 - i),
                             u"File invoices"_s, u"moved to Receipts, tagged green"_s),
                    u"Documents/Receipts/Invoice-2026-%1.pdf"_s.arg(1177 - i));
     std::ranges::stable_sort(past.entries, std::ranges::greater(), &LogEntry::date);

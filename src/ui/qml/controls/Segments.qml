@@ -41,7 +41,9 @@ Rectangle {
             id: repeater
             model: control.model
 
-            T.AbstractButton {
+            T.RadioButton {
+                checkable: false // what is chosen is for whoever shows it to say
+                autoExclusive: false
                 id: segment
 
                 required property int index
@@ -71,8 +73,6 @@ Rectangle {
                 }
 
                 Accessible.role: Accessible.RadioButton
-                // A control goes back to a role of its own when a screen reader comes.
-                Accessible.onRoleChanged: if (Accessible.role !== Accessible.RadioButton) Accessible.role = Accessible.RadioButton
                 Accessible.name: control.label === "" ? text : control.label + " " + text
                 Accessible.checkable: true
                 Accessible.checked: chosen

@@ -32,7 +32,9 @@ Row {
         id: repeater
         model: control.words
 
-        T.AbstractButton {
+        T.RadioButton {
+            checkable: false // what is chosen is for whoever shows it to say
+            autoExclusive: false
             id: dot
 
             required property int index
@@ -62,8 +64,6 @@ Row {
             }
 
             Accessible.role: Accessible.RadioButton
-            // A control goes back to a role of its own when a screen reader comes.
-            Accessible.onRoleChanged: if (Accessible.role !== Accessible.RadioButton) Accessible.role = Accessible.RadioButton
             Accessible.name: text
             Accessible.checkable: true
             Accessible.checked: isChosen

@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Quillon
 
 /// What a row is dragged by.
-T.Control {
+T.AbstractButton {
     id: grip
 
     property string spoken
@@ -18,8 +18,6 @@ T.Control {
     implicitHeight: Theme.controlInRow
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.Button
-    // A control goes back to a role of its own when a screen reader comes.
-    Accessible.onRoleChanged: if (Accessible.role !== Accessible.Button) Accessible.role = Accessible.Button
     Accessible.name: qsTr("Move %1").arg(spoken)
     Accessible.description: qsTr("Alt+Up and Alt+Down")
 

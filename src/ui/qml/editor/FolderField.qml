@@ -30,8 +30,6 @@ T.AbstractButton {
     }
 
     Accessible.role: Accessible.ComboBox
-    // A control goes back to a role of its own when a screen reader comes.
-    Accessible.onRoleChanged: if (Accessible.role !== Accessible.ComboBox) Accessible.role = Accessible.ComboBox
     Accessible.name: qsTr("Folder")
     Accessible.description: control.isChosen ? control.destination.name + ", " + control.destination.place : words.text
     Accessible.onPressAction: menu.open()

@@ -4,7 +4,7 @@ import Quillon
 
 /// One entry of the activity log: what happened to which file, and when. Enter asks to reveal it,
 /// Ctrl+Z to undo it. Its buttons are stops of the Tab key while the row has the focus.
-T.Control {
+T.ItemDelegate {
     id: row
 
     property string fileName

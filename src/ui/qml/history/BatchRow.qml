@@ -4,7 +4,7 @@ import Quillon
 
 /// The head of a batch of entries. Right and Left open and close it, Enter does either, Ctrl+Z asks
 /// to take all of it back.
-T.Control {
+T.ItemDelegate {
     id: row
 
     property string title
