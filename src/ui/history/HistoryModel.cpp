@@ -99,6 +99,11 @@ QString HistoryModel::errorsLabel() const {
                             : tr("Errors %1", "followed by their number").arg(errorCount_);
 }
 
+int HistoryModel::indexOf(const QString& key) const {
+    const auto found = std::ranges::find(rows(), key, &HistoryRow::key);
+    return found == rows().end() ? -1 : int(found - rows().begin());
+}
+
 int HistoryModel::headOf(int row) const {
     while (row > 0 && row < rowCount() && rows()[std::size_t(row)].isInBatch)
         --row;
@@ -194,6 +199,7 @@ void HistoryModel::refresh() {
     errorCount_ = layout.errorCount;
     Q_EMIT changed();
     setRows(layout.rows);
+    Q_EMIT refreshed();
 }
 
 } // namespace quillon

@@ -62,6 +62,8 @@ public:
     [[nodiscard]] const QVariantMap& days() const { return days_; }
     [[nodiscard]] bool isLogEmpty() const { return around_.store.recentLogs().empty(); }
 
+    /// -1 for a row that is not there.
+    Q_INVOKABLE int indexOf(const QString& key) const;
     /// Of a batch's row.
     Q_INVOKABLE void setOpen(const QString& key, bool open);
     /// The row of the batch that a row is in; the row itself when it is in none.
@@ -76,6 +78,8 @@ public:
 Q_SIGNALS:
     void changed();
     void filterChanged();
+    /// The rows are as they should be after something changed.
+    void refreshed();
 
 private:
     struct Undoing {

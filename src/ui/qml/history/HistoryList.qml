@@ -52,6 +52,50 @@ ListView {
         currentItem.takeFocusByKey();
     }
 
+    /// The rows that are seen while the list changes, each with how far down it is. Empty at the top,
+    /// where what is new shall be seen.
+    property var places: []
+
+    function keepPlace() {
+        if (places.length > 0 || contentY <= originY)
+            return;
+        for (let y = heading; y < height; y += Theme.rowActivity) {
+            const item = itemAt(width / 2, contentY + y);
+            if (item)
+                places.push([item.key, item.y - contentY]);
+        }
+    }
+
+    function goBackToPlace() {
+        const kept = places.find(place => App.history.indexOf(place[0]) >= 0);
+        places = [];
+        if (!kept)
+            return;
+        const index = App.history.indexOf(kept[0]);
+        forceLayout();
+        positionViewAtIndex(index, ListView.Beginning);
+        const item = itemAtIndex(index);
+        if (item)
+            contentY = Math.max(originY, Math.min(item.y - kept[1], originY + contentHeight + bottomMargin - height));
+    }
+
+    Connections {
+        target: App.history
+        function onRowsAboutToBeInserted() {
+            list.keepPlace();
+        }
+        function onRowsAboutToBeRemoved() {
+            list.keepPlace();
+        }
+        function onRefreshed() {
+            list.goBackToPlace();
+        }
+        function onFilterChanged() {
+            list.currentIndex = 0;
+            list.positionViewAtBeginning();
+        }
+    }
+
     readonly property int page: Math.max(1, Math.floor(height / Theme.rowActivity) - 1)
 
     Keys.onPressed: event => {
