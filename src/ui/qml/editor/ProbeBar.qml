@@ -52,7 +52,7 @@ Rectangle {
                 }
 
                 Label {
-                    width: warning.width - x
+                    width: warning.width - 20
                     text: warning.modelData
                     style: Theme.caption
                     color: Theme.warn
