@@ -1,6 +1,5 @@
 #include "app/QmlScene.h"
 
-#include "ui/DesktopLook.h"
 #include "ui/icons/ImageProviders.h"
 
 #include <QQmlComponent>
@@ -18,6 +17,10 @@ std::unique_ptr<QQmlEngine> makeQmlEngine(AppModel& model, DesktopAppearance* ap
                                               new DesktopLook(appearance, engine.get()));
     engine->rootContext()->setContextProperty(u"App"_s, &model);
     return engine;
+}
+
+DesktopLook& desktopLook(const QQmlEngine& engine) {
+    return *engine.rootContext()->contextProperty(u"Desktop"_s).value<DesktopLook*>();
 }
 
 std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& type) {

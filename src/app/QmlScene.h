@@ -2,6 +2,7 @@
 
 #include "platform/DesktopAppearance.h"
 #include "ui/AppModel.h"
+#include "ui/DesktopLook.h"
 
 #include <QQmlEngine>
 #include <QQuickWindow>
@@ -14,6 +15,9 @@ namespace quillon {
 /// `Desktop`. The model and the appearance, if there is one, are borrowed and outlive it.
 [[nodiscard]] std::unique_ptr<QQmlEngine> makeQmlEngine(AppModel& model,
                                                         DesktopAppearance* appearance = nullptr);
+
+/// What that engine's windows know as `Desktop`.
+[[nodiscard]] DesktopLook& desktopLook(const QQmlEngine& engine);
 
 /// A window of the module "Quillon", such as "MainWindow", not yet shown. A mistake in the QML ends
 /// the process: nothing that the user did or has can cause one.

@@ -4,8 +4,8 @@
 #include "engine/RuleEngine.h"
 #include "platform/Background.h"
 #include "platform/Platform.h"
-#include "platform/Settings.h"
 #include "platform/Timers.h"
+#include "service/ObservedSettings.h"
 #include "service/StoreAccess.h"
 #include "service/StoreSnapshot.h"
 #include "store/StoreSession.h"
@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] const Platform& platform() const;
     [[nodiscard]] Storage& storage();
-    [[nodiscard]] Settings& settings();
+    [[nodiscard]] ObservedSettings& settings();
     [[nodiscard]] RuleEngine engine(EngineSettings settings);
     [[nodiscard]] const DobbinJudge& judge() const;
     [[nodiscard]] SuggestionMemory& suggestionMemory();
@@ -69,6 +69,10 @@ public:
     /// Opens the store as the one instance that lives on; fails with `timedOut` when there is one
     /// already.
     [[nodiscard]] Expected<AppStore*> startInstance();
+
+    /// What clicking a notification does, which does nothing otherwise. With the desktop's token
+    /// that lets a window come to the front, or empty. The store must be open.
+    void onNotificationClicked(std::function<void(const std::string& token)> clicked);
 
     /// Lets what is under way in the store end, saves, and calls `done`; at once when the store was
     /// never opened.

@@ -1,5 +1,6 @@
 #include "app/DesktopApplication.h"
+#include "service/ThisProcess.h"
 
 int main(int argc, char** argv) {
-    return quillon::runDesktopApplication(argc, argv);
+    quillon::endProcess(quillon::runDesktopApplication(argc, argv));
 }
