@@ -28,11 +28,14 @@ void choose(Stage& stage, const QString& key, const QString& value) {
 }
 
 Scene chat(const QString& name, const std::function<void(Stage&)>& arrange = {}) {
-    return {.name = name, .arrange = [arrange](Stage& stage) {
-                if (arrange)
-                    arrange(stage);
-                stage.model.chat()->focus();
-            }};
+    return {.name = name,
+            .arrange =
+                [arrange](Stage& stage) {
+                    if (arrange)
+                        arrange(stage);
+                    stage.model.chat()->focus();
+                },
+            .settling = 2s};
 }
 
 Scene settings(const QString& name, const std::function<void(Stage&)>& arrange = {},
