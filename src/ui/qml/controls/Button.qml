@@ -134,10 +134,14 @@ T.Button {
         target: control
     }
 
-    ToolTip {
-        text: control.toolTip
-        shortcutText: control.shortcutText
-        visible: control.hovered && text !== ""
+    Loader {
+        active: control.hovered && control.enabled && control.toolTip !== ""
+        sourceComponent: ToolTip {
+            parent: control
+            text: control.toolTip
+            shortcutText: control.shortcutText
+            visible: true
+        }
     }
 
     DisabledTip {

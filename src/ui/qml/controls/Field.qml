@@ -76,7 +76,7 @@ FocusScope {
                 selectByMouse: true
                 clip: contentWidth > width - 22
                 verticalAlignment: TextInput.AlignVCenter
-                horizontalAlignment: TextInput.AlignLeft
+                horizontalAlignment: field.monospaced && field.LayoutMirroring.enabled ? TextInput.AlignRight : TextInput.AlignLeft
                 echoMode: field.hidden ? TextInput.Password : TextInput.Normal
                 color: Theme.text1
                 placeholderText: field.placeholder

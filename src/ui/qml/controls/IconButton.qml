@@ -18,7 +18,7 @@ T.Button {
     property color iconColor: kind === "quiet" ? Theme.text2 : Theme.text1
     property color fillColor: "transparent"
 
-    implicitWidth: kind === "quiet" ? 26 : 32
+    implicitWidth: kind === "quiet" ? Theme.controlSmall : Theme.control
     implicitHeight: implicitWidth
     padding: 0
     hoverEnabled: true
@@ -80,10 +80,14 @@ T.Button {
         target: control
     }
 
-    ToolTip {
-        text: control.label
-        shortcutText: control.shortcutText
-        visible: control.hovered && text !== ""
+    Loader {
+        active: control.hovered && control.enabled && control.label !== ""
+        sourceComponent: ToolTip {
+            parent: control
+            text: control.label
+            shortcutText: control.shortcutText
+            visible: true
+        }
     }
 
     DisabledTip {

@@ -101,9 +101,13 @@ Row {
                 target: dot
             }
 
-            ToolTip {
-                text: dot.text
-                visible: dot.hovered
+            Loader {
+                active: dot.hovered
+                sourceComponent: ToolTip {
+                    parent: dot
+                    text: dot.text
+                    visible: true
+                }
             }
         }
     }

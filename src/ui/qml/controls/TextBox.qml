@@ -62,7 +62,7 @@ FocusScope {
                     selectByMouse: true
                     wrapMode: TextEdit.Wrap
                     textFormat: TextEdit.PlainText
-                    horizontalAlignment: TextEdit.AlignLeft
+                    horizontalAlignment: box.monospaced && box.LayoutMirroring.enabled ? TextEdit.AlignRight : TextEdit.AlignLeft
                     color: Theme.text1
                     selectionColor: Theme.accent
                     selectedTextColor: Theme.onAccent
