@@ -1,8 +1,8 @@
 #include "Scene.h"
 #include "model/Uuid.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
+#include <QQuickItem>
+#include <QTimer>
 
 namespace quillon::testing {
 
@@ -10,11 +10,23 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void press(QWindow& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, modifiers);
-        QCoreApplication::sendEvent(&window, &event);
-    }
+/// The first item of that QML type.
+QQuickItem* find(QQuickItem* root, const QByteArray& type) {
+    if (QByteArray(root->metaObject()->className()).startsWith(type + "_QMLTYPE"))
+        return root;
+    for (QQuickItem* const child : root->childItems())
+        if (QQuickItem* const found = find(child, type))
+            return found;
+    return nullptr;
+}
+
+std::function<void(Stage&)> calling(const QByteArray& type, const char* method) {
+    return [type, method](Stage& stage) {
+        // What a list shows is there once it has been laid out.
+        QTimer::singleShot(400, &stage.window, [&stage, type, method] {
+            QMetaObject::invokeMethod(find(stage.window.contentItem(), type), method);
+        });
+    };
 }
 
 Scene showing(const QString& name, const QString& folder,
@@ -54,23 +66,10 @@ std::vector<Scene> mainScenes() {
         showing(
             u"main-remove"_s, downloads,
             [](Stage& stage) { stage.model.folders()->remove(stage.model.page()->folderID()); }),
-        showing(u"main-menu"_s, downloads,
-                [](Stage& stage) { press(stage.window, Qt::Key_Return, Qt::AltModifier); }),
-        showing(u"main-timing"_s, downloads,
-                [](Stage& stage) { press(stage.window, Qt::Key_T, Qt::ControlModifier); }),
-        showing(u"main-rule-menu"_s, downloads,
-                [](Stage& stage) {
-                    for (int area = 0; area < 3; ++area)
-                        press(stage.window, Qt::Key_F6);
-                    press(stage.window, Qt::Key_Down);
-                    press(stage.window, Qt::Key_F10, Qt::ShiftModifier);
-                }),
-        showing(u"main-focus"_s, downloads,
-                [](Stage& stage) {
-                    for (int area = 0; area < 4; ++area)
-                        press(stage.window, Qt::Key_F6);
-                    press(stage.window, Qt::Key_Down);
-                }),
+        showing(u"main-menu"_s, downloads, calling("FolderDetail", "openMenu")),
+        showing(u"main-timing"_s, downloads, calling("FolderDetail", "openTiming")),
+        showing(u"main-rule-menu"_s, downloads, calling("RuleCard", "openMenu")),
+        showing(u"main-focus"_s, downloads, calling("RuleList", "takeFocus")),
     };
 }
 

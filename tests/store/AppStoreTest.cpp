@@ -50,7 +50,7 @@ TEST(AppStore, findsAFolderAgainThatMovedWithItsRulesAndWhatCountedAsHandled) {
     bench.background.finish();
     EXPECT_EQ(bench.saved().folders.front().path, bench.path("moved"));
     EXPECT_EQ(bench.saved().folders.front().rules.size(), 1U);
-    EXPECT_EQ(bench.watching.paths().front(), bench.disk.machine.at("moved"));
+    EXPECT_EQ(std::ranges::count(bench.watching.paths(), bench.disk.machine.at("moved")), 1);
     EXPECT_TRUE(std::filesystem::exists(bench.disk.machine.at("moved/old.pdf")));
 }
 

@@ -49,7 +49,7 @@ struct FolderPageTest : ::testing::Test {
 };
 
 TEST_F(FolderPageTest, TellsWhereTheFolderIsHowFullAndWhenItWasTidied) {
-    const QString path = bench.path("in");
+    const QString path = u"~/work/in"_s;
     bench.store->setTiming(TidyTiming::manual, folder);
     EXPECT_EQ(page.details(), path + u" · 0 files"_s);
     write("a.txt");
@@ -165,7 +165,7 @@ TEST_F(FolderPageTest, PutsAFileBackAndShowsWhereOneIs) {
     bench.store->setTiming(TidyTiming::manual, folder);
     entries.undo(page.newestUndoable());
     bench.background.finish();
-    EXPECT_EQ(toasts.sentence(), u"Put back "_s + entry.fileName);
+    EXPECT_TRUE(toasts.sentence().startsWith(u"Put back "_s + entry.fileName));
     EXPECT_TRUE(std::filesystem::exists(bench.disk.machine.at("in/" + name)));
 
     const ActivityEntry other = activity().front();
