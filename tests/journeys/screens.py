@@ -21,6 +21,8 @@ def faults(app):
     for node in app.walk():
         try:
             role, name, states = node.role, node.name, node.states
+            # Qt keeps quiet about the name of a field for secrets; its description says what it is.
+            name = name or (node.description if role == "text" else "")
             if role in NAMED and not name.strip():
                 found.append(f"a {role} without a name in {surroundings(app, node)}")
             if role in REACHED and "sensitive" in states and "focusable" not in states:

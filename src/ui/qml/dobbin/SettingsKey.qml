@@ -82,7 +82,7 @@ Column {
             hidden: true
             enabled: !row.claude.isSaving
             label: qsTr("Claude API key")
-            placeholder: qsTr("Paste your key here")
+            placeholder: qsTr("Paste your Claude API key here")
             errorText: row.claude.keyError
             onAccepted: row.claude.saveKey(text)
         }
