@@ -68,11 +68,10 @@ int showSentence(const QString& sentence) {
 
 /// Says how long it was from the process's start to the first picture of a window.
 void measureLaunch(QQuickWindow& window, const QElapsedTimer& sinceStart) {
-    auto* const once = new QObject(&window);
-    QObject::connect(&window, &QQuickWindow::frameSwapped, once, [once, sinceStart] {
-        std::fprintf(stderr, "first frame after %lld ms\n", sinceStart.elapsed());
-        once->deleteLater();
-    });
+    QObject::connect(
+        &window, &QQuickWindow::frameSwapped, &window,
+        [sinceStart] { std::fprintf(stderr, "first frame after %lld ms\n", sinceStart.elapsed()); },
+        Qt::SingleShotConnection);
 }
 
 /// Everything that the application is made of once it is the instance.
@@ -98,7 +97,7 @@ public:
                   .desktop = desktop_,
                   .settings = services.settings(),
                   .desktopNames = qEnvironmentVariable("XDG_CURRENT_DESKTOP")}) {
-        QObject::connect(&shell_, &DesktopShell::quitRequested, &shell_, [this] { quit(); });
+        QObject::connect(&shell_, &DesktopShell::quitRequested, &shell_, [this] { askToQuit(); });
         services_.onNotificationClicked(
             [this](const std::string& token) { shell_.showMainWindow(token); });
         services_.setStopHandler([this] { quit(); });
@@ -110,6 +109,13 @@ public:
     [[nodiscard]] DesktopShell& shell() { return shell_; }
 
 private:
+    /// A rule that was changed and not saved is shown first, and its editor asks.
+    void askToQuit() {
+        model_.sheets()->leave([this] { quit(); });
+        if (model_.editor()->question()->isOpen())
+            shell_.showMainWindow();
+    }
+
     /// A second time, what is under way ends early.
     void quit() {
         shell_.hideAll();
