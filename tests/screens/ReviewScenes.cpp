@@ -31,13 +31,16 @@ void whenReady(CleanupModel& model, const QString& state,
 }
 
 Scene cleanup(const QString& name, const std::function<void(CleanupModel&)>& then = {}) {
-    return {.name = name, .arrange = [then](Stage& stage) {
-                CleanupModel& model = *stage.model.cleanup();
-                model.open(idOf(stage, u"Downloads"_s));
-                model.setDays(1, 60);
-                if (then)
-                    whenReady(model, u"review"_s, then);
-            }};
+    return {.name = name,
+            .arrange =
+                [then](Stage& stage) {
+                    CleanupModel& model = *stage.model.cleanup();
+                    model.open(idOf(stage, u"Downloads"_s));
+                    model.setDays(1, 60);
+                    if (then)
+                        whenReady(model, u"review"_s, then);
+                },
+            .settling = 2500ms};
 }
 
 void tidyAll(CleanupModel& model) {
@@ -64,13 +67,16 @@ Scene preview(const QString& name, const QString& folder,
 
 /// Tidied with one file that can't go where it should: a file stands in a folder's place.
 Scene cleanupWithFailure() {
-    return {.name = u"cleanup-failure"_s, .arrange = [](Stage& stage) {
-                std::filesystem::remove_all(stage.home.at("Downloads/Screenshots"));
-                makeFile(stage.home.at("Downloads/Screenshots"), 10, 3);
-                CleanupModel& model = *stage.model.cleanup();
-                model.open(idOf(stage, u"Downloads"_s));
-                whenReady(model, u"review"_s, tidyAll);
-            }};
+    return {.name = u"cleanup-failure"_s,
+            .arrange =
+                [](Stage& stage) {
+                    std::filesystem::remove_all(stage.home.at("Downloads/Screenshots"));
+                    makeFile(stage.home.at("Downloads/Screenshots"), 10, 3);
+                    CleanupModel& model = *stage.model.cleanup();
+                    model.open(idOf(stage, u"Downloads"_s));
+                    whenReady(model, u"review"_s, tidyAll);
+                },
+            .settling = 2500ms};
 }
 
 void makeMany(const SampleHome& home) {
