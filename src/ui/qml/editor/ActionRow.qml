@@ -177,6 +177,7 @@ EditorRow {
                 text: qsTr("There are no shortcuts in %1").arg(row.editor.shortcutsPlace)
                 style: Theme.caption
                 color: Theme.text2
+                wrapMode: Text.Wrap
             }
         }
     }

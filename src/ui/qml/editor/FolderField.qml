@@ -65,7 +65,7 @@ T.AbstractButton {
 
         Label {
             id: words
-            Layout.maximumWidth: implicitWidth
+            Layout.maximumWidth: Math.ceil(implicitWidth) + 1
             Layout.fillWidth: true
             text: control.isChosen ? control.destination.name : qsTr("Choose a folder")
             style: control.isChosen ? Theme.bodyMedium : Theme.body
