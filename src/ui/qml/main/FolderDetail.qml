@@ -14,7 +14,7 @@ Item {
     readonly property bool isCompact: width < 600
     readonly property alias header: header
     readonly property alias rules: rules
-    readonly property Item activity: rules.activity
+    readonly property Item activity: footer.activity
 
     function openTiming() {
         header.openTiming();
@@ -62,14 +62,43 @@ Item {
         anchors.right: header.right
     }
 
-    RuleList {
-        id: rules
+    // The heading and the activity scroll with the list, but are no part of it: the Tab key takes what
+    // lies in a list in an order of its own.
+    Item {
         anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         width: parent.width
-        startMargin: detail.startMargin
-        endMargin: detail.endMargin
-        isCompact: detail.isCompact
-        carried: detail.carried
+        clip: true
+
+        RuleListHeader {
+            id: heading
+            y: (rules.headerItem ? rules.headerItem.y : 0) - rules.contentY
+            z: 1
+            width: parent.width
+            startMargin: detail.startMargin
+            endMargin: detail.endMargin
+            isCompact: detail.isCompact
+        }
+
+        RuleList {
+            id: rules
+            anchors.fill: parent
+            headingHeight: heading.height
+            activityHeight: footer.height
+            startMargin: detail.startMargin
+            endMargin: detail.endMargin
+            carried: detail.carried
+            onFocusTurnedDown: heading.takeFocus()
+        }
+
+        RuleListFooter {
+            id: footer
+            y: (rules.footerItem ? rules.footerItem.y : 0) - rules.contentY
+            z: 1
+            width: parent.width
+            startMargin: detail.startMargin
+            endMargin: detail.endMargin
+            isCompact: detail.isCompact
+        }
     }
 }

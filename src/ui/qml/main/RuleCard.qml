@@ -44,6 +44,11 @@ T.ItemDelegate {
         App.editor.edit(App.page.folderID, key);
     }
 
+    function moveBy(offset) {
+        App.page.rules.moveBy(key, offset);
+        focusReason = Qt.TabFocusReason;
+    }
+
     function openMenu() {
         ListView.view.openMenu(card, more);
     }
@@ -57,8 +62,8 @@ T.ItemDelegate {
     Keys.onEnterPressed: edit()
     Keys.onDeletePressed: App.page.rules.remove(key)
     Keys.onMenuPressed: openMenu()
-    Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? App.page.rules.moveBy(key, -1) : ListView.view.focusRow(index - 1)
-    Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? App.page.rules.moveBy(key, 1) : ListView.view.focusRow(index + 1)
+    Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? moveBy(-1) : ListView.view.focusRow(index - 1)
+    Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? moveBy(1) : ListView.view.focusRow(index + 1)
     Keys.onSpacePressed: App.page.rules.setEnabled(key, !isEnabled)
     Keys.onPressed: event => {
         event.accepted = true;
@@ -92,7 +97,7 @@ T.ItemDelegate {
         y: 20
         width: 12
         height: 18
-        activeFocusOnTab: card.focusWithin
+        activeFocusOnTab: card.focusWithin || activeFocus
         Accessible.role: Accessible.Button
         Accessible.name: qsTr("Move %1").arg(card.name)
         Accessible.description: qsTr("Alt+Up and Alt+Down")

@@ -1,21 +1,23 @@
 import QtQuick
 import Quillon
 
-/// The rules of the folder, under their heading and above its activity.
+/// The rules of the folder, with room for their heading above them and for its activity below.
 ListView {
     id: list
 
     property int startMargin: Theme.s6
     property int endMargin: Theme.s6
-    property bool isCompact: false
+    property real headingHeight: 0
+    property real activityHeight: 0
     property Item carried
     /// Where a rule that is dragged would come to lie; -1 for nowhere.
     property int insertion: -1
     readonly property int edge: 40
-    readonly property Item activity: footerItem ? footerItem.activity : null
+
+    /// There is no rule to take the focus.
+    signal focusTurnedDown
 
     model: App.page.rules
-    clip: true
     reuseItems: true
     spacing: Theme.s2
     cacheBuffer: carried.isCarrying ? 20000 : 400
@@ -26,8 +28,10 @@ ListView {
     Accessible.name: qsTr("Rules")
 
     function takeFocus() {
-        if (count === 0)
-            return headerItem.takeFocus();
+        if (count === 0) {
+            focusTurnedDown();
+            return true;
+        }
         return focusRow(Math.max(0, currentIndex));
     }
 
@@ -43,6 +47,11 @@ ListView {
     function openMenu(card, anchor) {
         menu.card = card;
         menu.popup(anchor, anchor.width - menu.implicitWidth, anchor.height + 2);
+    }
+
+    /// Once the menu is open.
+    function showCopies() {
+        menu.showCopies();
     }
 
     /// The rule before which a place of the list lies; the number of rules behind the last.
@@ -86,18 +95,14 @@ ListView {
         onTriggered: list.contentY = Math.max(list.originY, Math.min(list.originY + Math.max(0, list.contentHeight - list.height), list.contentY + step))
     }
 
-    header: RuleListHeader {
+    header: Item {
         width: list.width
-        startMargin: list.startMargin
-        endMargin: list.endMargin
-        isCompact: list.isCompact
+        height: list.headingHeight
     }
 
-    footer: RuleListFooter {
+    footer: Item {
         width: list.width
-        startMargin: list.startMargin
-        endMargin: list.endMargin
-        isCompact: list.isCompact
+        height: list.activityHeight
     }
 
     delegate: RuleCard {

@@ -12,6 +12,11 @@ Menu {
 
     implicitWidth: 220
 
+    function showCopies() {
+        currentIndex = 2;
+        copies.open();
+    }
+
     MenuItem {
         text: qsTr("Edit…")
         iconName: "document-edit"

@@ -41,12 +41,17 @@ T.ItemDelegate {
 
     onClicked: App.folders.select(key)
 
+    function moveBy(offset) {
+        App.folders.moveBy(key, offset);
+        focusReason = Qt.TabFocusReason;
+    }
+
     function openMenu() {
         ListView.view.openMenu(row, width / 2, height);
     }
 
-    Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? App.folders.moveBy(key, -1) : ListView.view.go(index - 1)
-    Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? App.folders.moveBy(key, 1) : ListView.view.go(index + 1)
+    Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? moveBy(-1) : ListView.view.go(index - 1)
+    Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? moveBy(1) : ListView.view.go(index + 1)
     Keys.onDeletePressed: App.folders.remove(key)
     Keys.onMenuPressed: openMenu()
     Keys.onPressed: event => {
