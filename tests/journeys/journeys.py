@@ -8,9 +8,23 @@ PDF = ("File PDFs", "extension is pdf", "move to ~/Papers")
 
 
 def first_run(programs, is_mouse):
+    """The introduction, to the first folder that is kept tidy."""
     with Visit(programs, is_mouse, onboarded=False) as visit:
         me = visit.me
         me.see("heading", "Welcome to Quillon")
+        visit.home("Downloads").mkdir(exist_ok=True)
+        me.push("Get Started")
+        me.see("heading", "Which folders should stay tidy?")
+        me.push("Choose Another Folder…")
+        me.choose_path(visit.home("Downloads"))
+        me.push("Watch 1 Folder")
+        me.see("heading", "Let it run by itself")
+        me.push("Continue")
+        me.see("heading", "Meet Dobbin")
+        me.push("Finish")
+        me.see("list item", "Downloads")
+        assert visit.rules_of("Downloads") == []
+        assert visit.quillon("settings", "get", "hasOnboarded").strip().endswith("true")
 
 
 def preset(programs, is_mouse):
@@ -161,7 +175,7 @@ def missing_folder(programs, is_mouse):
     with Visit(programs, is_mouse, folders=["Downloads"], rules=[("Downloads", *PDF)]) as visit:
         me = visit.me
         visit.home("Downloads").rename(visit.home("Incoming"))
-        me.see("alert message", "“Downloads” can’t be found", patience=20)
+        me.see("alert message", "Downloads can’t be found", patience=20)
         me.push("Locate…")
         me.choose_path(visit.home("Incoming"))
         visit.must_hold(lambda: visit.rules_of("Incoming") == ["File PDFs"], "the folder's return")

@@ -171,7 +171,8 @@ class Person:
         if self.is_mouse:
             self.click("menu item", item)
         else:
-            self.focus_on("menu item", item, key="Down")
+            self.see("menu item", item)
+            self.focus_on("menu item", item, key="Down", most=12)
             self.press("Return")
 
     def choose_folder(self, name):
@@ -192,15 +193,24 @@ class Person:
     def choose_path(self, path):
         """Answers the desktop's own dialogue for files."""
         field = self.see("text", re.compile("^(Directory|Folder|File( name)?):$"))
+        name = field.name
         if self.is_mouse:
-            self.click("text", field.name)
+            self.click("text", name)
         self.press("ctrl+a")
         self.type(str(path))
-        if self.is_mouse:
-            self.click("push button", re.compile("^(Choose|Open|Save)$"))
-        else:
-            self.press("Return")
-        self.see_gone("text", field.name)
+
+        def is_answered():
+            # The list of names below the field takes the first click or key for itself.
+            if self.is_mouse:
+                self.click("push button", re.compile("^&?(Choose|Open|Save)$"))
+            else:
+                self.press("Return")
+            end = time.monotonic() + 0.6
+            while self.sees("text", name):
+                if time.monotonic() > end:
+                    return False
+            return True
+        until(is_answered, "the end of the dialogue", 6)
 
     def _do(self, *words):
         self._must_run()

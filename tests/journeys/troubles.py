@@ -43,9 +43,9 @@ def vanished_folder(programs):
         me = visit.me
         me.choose_folder("Downloads")
         visit.home("Downloads").rename(visit.home("Elsewhere"))
-        me.see("alert message", "“Downloads” can’t be found", patience=20)
+        me.see("alert message", "Downloads can’t be found", patience=20)
         visit.home("Elsewhere").rename(visit.home("Downloads"))
-        me.see_gone("alert message", "“Downloads” can’t be found", patience=20)
+        me.see_gone("alert message", "Downloads can’t be found", patience=20)
 
 
 def locked_keyring(programs):

@@ -1,7 +1,9 @@
 """A home with folders and rules, and the application at work on it with somebody before it."""
 
 import json
+import os
 import subprocess
+import time
 
 from desktop import Desktop, until
 from person import Person
@@ -36,7 +38,9 @@ class Visit:
             raise
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, failure=None, *_):
+        if failure and "QUILLON_JOURNEY_PICTURE" in os.environ:
+            self.desktop.output("import", "-window", "root", os.environ["QUILLON_JOURNEY_PICTURE"])
         self.desktop.__exit__()
 
     def start(self):
@@ -56,6 +60,8 @@ class Visit:
         path = self.home(name)
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text)
+        an_hour_ago = time.time() - 3600
+        os.utime(path, (an_hour_ago, an_hour_ago))
         return path
 
     def quillon(self, *words):
