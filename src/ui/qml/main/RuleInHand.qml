@@ -29,8 +29,8 @@ Card {
     }
 
     function move(place) {
-        x = place.x - 20;
-        y = place.y - height / 2;
+        x = place.x + 14;
+        y = place.y + 6;
         moved(place.x, place.y);
     }
 

@@ -135,7 +135,7 @@ T.ItemDelegate {
 
     TipArea {
         anchors.fill: parent
-        text: row.path
+        text: pointer.pressed ? "" : row.path
     }
 
     MouseArea {
