@@ -14,7 +14,7 @@ struct InstanceRequest {
         handOver, ///< the store; the argument is the number of the process that takes it
     };
     Kind kind = Kind::show;
-    std::string argument;
+    std::string argument = {};
 
     bool operator==(const InstanceRequest&) const = default;
 };
