@@ -134,6 +134,17 @@ FocusScope {
             elevation: 3
         }
 
+        // Opaque, and without round corners: what lies beneath the sheet need not be painted for every
+        // frame of a list that scrolls in it.
+        Rectangle {
+            anchors.fill: parent
+            anchors.leftMargin: 1
+            anchors.rightMargin: 1
+            anchors.topMargin: parent.radius
+            anchors.bottomMargin: parent.radius
+            color: Theme.bg
+        }
+
         Item {
             id: header
             width: parent.width

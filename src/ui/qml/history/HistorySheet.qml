@@ -89,13 +89,6 @@ Sheet {
             y: filters.y + filters.height + 14
         }
 
-        // Opaque, and without round corners: what lies beneath need not be painted for every frame of
-        // the list that moves above it.
-        Rectangle {
-            anchors.fill: list
-            color: Theme.bg
-        }
-
         HistoryList {
             id: list
             // Beside the outline of the sheet.
