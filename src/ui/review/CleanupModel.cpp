@@ -42,6 +42,7 @@ bool isUndoneByNothing(const CleanupRecipe& recipe) {
 
 CleanupModel::CleanupModel(Surroundings around, QObject* parent)
     : QObject(parent), around_(std::move(around)) {
+    connect(this, &CleanupModel::changed, this, &CleanupModel::progressChanged);
     connect(&around_.sheets, &Sheets::currentChanged, this, [this] {
         const bool isBusy = state_ == State::tidying || state_ == State::undoing;
         if (state_ != State::closed && !isBusy && !isShown())
@@ -408,12 +409,21 @@ ReadyFiles CleanupModel::tickedFiles() const {
     return files;
 }
 
+/// Tells the newest number only: there is one report a file.
 Progress CleanupModel::reporter() {
-    return [self = QPointer(this), &background = around_.background](std::size_t done,
-                                                                     std::size_t total) {
-        background.post([self, done, total] {
+    struct Report {
+        std::atomic<std::size_t> done = 0;
+        std::atomic<bool> isOnItsWay = false;
+    };
+    return [self = QPointer(this), report = std::make_shared<Report>(),
+            &background = around_.background](std::size_t done, std::size_t total) {
+        report->done = done;
+        if (report->isOnItsWay.exchange(true))
+            return;
+        background.post([self, report, total] {
+            report->isOnItsWay = false;
             if (self)
-                self->progressed(done, total);
+                self->progressed(report->done, total);
         });
     };
 }
@@ -446,7 +456,7 @@ void CleanupModel::progressed(std::size_t done, std::size_t total) {
         return;
     done_ = done;
     total_ = total;
-    Q_EMIT changed();
+    Q_EMIT progressChanged();
 }
 
 void CleanupModel::stop() {

@@ -36,8 +36,8 @@ class CleanupModel final : public QObject {
     Q_PROPERTY(QString tickedText READ tickedText NOTIFY changed)
     Q_PROPERTY(QString noteText READ noteText NOTIFY changed)
     Q_PROPERTY(bool canTidy READ canTidy NOTIFY changed)
-    Q_PROPERTY(double progress READ progress NOTIFY changed)
-    Q_PROPERTY(QString progressText READ progressText NOTIFY changed)
+    Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+    Q_PROPERTY(QString progressText READ progressText NOTIFY progressChanged)
     Q_PROPERTY(bool isStopping READ isStopping NOTIFY changed)
     Q_PROPERTY(QString resultTitle READ resultTitle NOTIFY changed)
     Q_PROPERTY(QString resultText READ resultText NOTIFY changed)
@@ -124,6 +124,7 @@ public:
 Q_SIGNALS:
     void opened();
     void changed();
+    void progressChanged();
 
 private:
     enum class State { closed, listing, failed, review, tidying, result, undoing };
