@@ -105,9 +105,11 @@ FocusScope {
         anchors.leftMargin: 1
         anchors.right: parent.right
         visible: !App.chat.isEmpty
+        isDragged: bar.pressed
     }
 
     ScrollBar {
+        id: bar
         flickable: turns
     }
 
@@ -163,6 +165,7 @@ FocusScope {
     ChatField {
         id: field
         focus: true
+        onSent: turns.showNewest()
         anchors.left: parent.left
         anchors.leftMargin: Theme.s4 + 1
         anchors.right: parent.right

@@ -9,11 +9,15 @@ FocusScope {
 
     readonly property bool stops: App.chat.isThinking && input.length === 0
 
+    signal sent
+
     implicitHeight: surface.height
 
     function send() {
-        if (App.chat.ask(input.text))
-            input.clear();
+        if (!App.chat.ask(input.text))
+            return;
+        input.clear();
+        sent();
     }
 
     FieldSurface {

@@ -7,6 +7,9 @@ ListView {
     id: list
 
     property bool sticks: true
+    /// By its scroll bar.
+    property bool isDragged: false
+    readonly property real end: Math.max(originY, originY + contentHeight + bottomMargin - height)
 
     model: App.chat.turns
     clip: true
@@ -20,7 +23,7 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Conversation with Dobbin")
 
-    onMovementEnded: sticks = atYEnd
+    onContentYChanged: if (moving || isDragged) sticks = contentY >= end - 2
     onCountChanged: {
         currentIndex = count - 1;
         follow();
@@ -29,6 +32,11 @@ ListView {
     onHeightChanged: follow()
     Component.onCompleted: currentIndex = count - 1
 
+    function showNewest() {
+        sticks = true;
+        follow();
+    }
+
     function follow() {
         if (sticks)
             Qt.callLater(toEnd);
@@ -36,7 +44,7 @@ ListView {
 
     function toEnd() {
         if (sticks)
-            contentY = Math.max(originY, originY + contentHeight + bottomMargin - height);
+            contentY = end;
     }
 
     function go(index) {
@@ -58,15 +66,6 @@ ListView {
         event.accepted = target !== undefined && event.modifiers === Qt.NoModifier;
         if (event.accepted)
             go(target);
-    }
-
-    // Scrolling that is no flick: the wheel, and the bar.
-    WheelHandler {
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        onWheel: event => {
-            event.accepted = false;
-            Qt.callLater(() => list.sticks = list.atYEnd);
-        }
     }
 
     section.property: "day"
