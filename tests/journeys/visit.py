@@ -44,7 +44,8 @@ class Visit:
         self.desktop.__exit__()
 
     def start(self):
-        self.app = self.desktop.spawn(str(self.programs / "quillon-app"))
+        # A file that may not grow fails to be written, and ends nobody.
+        self.app = self.desktop.spawn(str(self.programs / "quillon-app"), restore_signals=False)
         self.me = Person(self.desktop, self.app, self.is_mouse)
 
     def kill(self):

@@ -381,7 +381,8 @@ void FolderPage::refreshBanner() {
         banner_ = {};
         break;
     case Trouble::save:
-        banner_ = warn(store.lastSaveError()->message, {});
+        banner_ =
+            warn(tr("Quillon can’t save your changes: %1").arg(store.lastSaveError()->message), {});
         banner_.kind = u"error"_s;
         break;
     case Trouble::denied:
