@@ -12,6 +12,10 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
+struct AskedOfBins final : FakeJudge {
+    bool isWaiting(const std::string& path) override { return path.ends_with(".bin"); }
+};
+
 struct PreviewModelTest : ::testing::Test {
     AppStoreBench bench;
     Sheets sheets;
@@ -20,11 +24,7 @@ struct PreviewModelTest : ::testing::Test {
                         .background = bench.background,
                         .timers = bench.timers,
                         .sheets = sheets,
-                        .makeJudge = [] {
-                            auto judge = std::make_unique<FakeJudge>();
-                            judge->waiting = true;
-                            return judge;
-                        }}};
+                        .makeJudge = [] { return std::make_unique<AskedOfBins>(); }}};
     QUuid folder = bench.addFolder("in");
 
     PreviewModelTest() { bench.store->setTiming(TidyTiming::manual, folder); }
