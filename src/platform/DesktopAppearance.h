@@ -12,6 +12,7 @@ public:
         bool prefersDark = false;
         bool prefersHighContrast = false;
         bool reducesMotion = false;
+        bool hasButtonsAtStart = false; ///< those of windows, where a line of text begins
 
         bool operator==(const Wishes&) const = default;
     };

@@ -76,6 +76,7 @@ DesktopLook::Look DesktopLook::current() const {
             .isHighContrast =
                 wishes.prefersHighContrast || contrastRatio(window, text) >= highContrast,
             .reducesMotion = wishes.reducesMotion,
+            .hasButtonsAtStart = wishes.hasButtonsAtStart,
             .fontFamily = namesFont ? font.family() : u"Inter"_s,
             .bodySize = namesFont ? bodySizeOf(font) : defaultBodySize};
 }

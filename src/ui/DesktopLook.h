@@ -15,6 +15,7 @@ class DesktopLook final : public QObject {
     Q_PROPERTY(bool isDark READ isDark NOTIFY changed)
     Q_PROPERTY(bool isHighContrast READ isHighContrast NOTIFY changed)
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY changed)
+    Q_PROPERTY(bool hasButtonsAtStart READ hasButtonsAtStart NOTIFY changed)
     Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed)
     Q_PROPERTY(int bodySize READ bodySize NOTIFY changed)
 
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] bool isDark() const { return look_.isDark; }
     [[nodiscard]] bool isHighContrast() const { return look_.isHighContrast; }
     [[nodiscard]] bool reducesMotion() const { return look_.reducesMotion; }
+    /// Of windows.
+    [[nodiscard]] bool hasButtonsAtStart() const { return look_.hasButtonsAtStart; }
     /// Of an installed font.
     [[nodiscard]] QString fontFamily() const { return look_.fontFamily; }
     /// Of running text, in device-independent pixels.
@@ -42,6 +45,7 @@ private:
         bool isDark = false;
         bool isHighContrast = false;
         bool reducesMotion = false;
+        bool hasButtonsAtStart = false;
         QString fontFamily;
         int bodySize = 13;
 

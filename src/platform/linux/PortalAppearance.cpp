@@ -36,6 +36,10 @@ constexpr std::array keys{
         }},
     Key{"org.gnome.desktop.interface", "enable-animations",
         [](Wishes& wishes, const QVariant& value) { wishes.reducesMotion = !value.toBool(); }},
+    Key{"org.gnome.desktop.wm.preferences", "button-layout",
+        [](Wishes& wishes, const QVariant& value) {
+            wishes.hasButtonsAtStart = value.toString().section(u':', 0, 0).contains(u"close"_s);
+        }},
 };
 
 /// Older portals wrap a value once more.

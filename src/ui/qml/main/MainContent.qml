@@ -7,6 +7,7 @@ Item {
 
     property int radius: 0
     readonly property bool isBusyElsewhere: App.sheets.current !== "" || onboarding.active || App.folders.question.isOpen
+    readonly property bool buttonsAtStart: Desktop.hasButtonsAtStart
     readonly property bool chatIsOpen: App.chat.isOpen
     readonly property bool chatLiesOver: chatIsOpen && width < 960
 
@@ -28,6 +29,7 @@ Item {
             height: parent.height
             radius: content.radius
             carried: hand
+            startInset: content.buttonsAtStart ? windowButtons.width + Theme.s3 : 0
         }
 
         FolderDetail {
@@ -37,7 +39,7 @@ Item {
             height: parent.height
             visible: App.page.hasFolder
             endMargin: content.chatIsOpen && !content.chatLiesOver ? Theme.s5 : Theme.s6
-            roomForButtons: Math.max(0, windowButtons.width + Theme.s4 + 34 - endMargin - (content.chatLiesOver ? 0 : chat.width))
+            roomForButtons: content.buttonsAtStart ? 0 : Math.max(0, windowButtons.width + Theme.s4 + 34 - endMargin - (content.chatLiesOver ? 0 : chat.width))
             carried: hand
         }
 
@@ -53,7 +55,7 @@ Item {
             anchors.right: parent.right
             height: parent.height
             radius: content.radius
-            endInset: windowButtons.width
+            endInset: content.buttonsAtStart ? 0 : windowButtons.width
             floating: content.chatLiesOver
         }
     }
@@ -74,8 +76,10 @@ Item {
 
     WindowButtons {
         id: windowButtons
-        anchors.right: parent.right
-        anchors.rightMargin: Theme.s4
+        isAtStart: content.buttonsAtStart
+        anchors.left: isAtStart ? parent.left : undefined
+        anchors.right: isAtStart ? undefined : parent.right
+        anchors.margins: Theme.s4
         y: 17
         z: 1
     }

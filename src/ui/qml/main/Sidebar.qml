@@ -7,6 +7,8 @@ Item {
 
     property int radius: 0
     property Item carried
+    /// What the window's buttons take of the first row.
+    property real startInset: 0
     readonly property alias list: list
 
     /// The row of the list at a place of the window's contents, -1 when there is none.
@@ -54,7 +56,7 @@ Item {
     Tile {
         id: mark
         anchors.left: parent.left
-        anchors.leftMargin: 18
+        anchors.leftMargin: (sidebar.startInset > 0 ? Theme.s4 : 18) + sidebar.startInset
         y: 17
         size: 26
         radius: Theme.rControl

@@ -6,10 +6,11 @@ Row {
     id: buttons
 
     property var window: Window.window
+    property bool isAtStart: false
     readonly property bool isMaximized: window && window.visibility === Window.Maximized
 
     spacing: 6
-    layoutDirection: Qt.LeftToRight
+    layoutDirection: isAtStart ? Qt.RightToLeft : Qt.LeftToRight
 
     IconButton {
         kind: "quiet"
