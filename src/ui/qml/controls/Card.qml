@@ -15,4 +15,14 @@ Rectangle {
     Shadow {
         elevation: card.elevation
     }
+
+    // Opaque, and without round corners: neither the shadow nor what else lies beneath is painted
+    // where it can't be seen.
+    Rectangle {
+        x: 1
+        y: card.radius
+        width: card.width - 2
+        height: Math.max(0, card.height - 2 * card.radius)
+        color: card.color
+    }
 }
