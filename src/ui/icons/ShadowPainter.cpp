@@ -62,6 +62,16 @@ void blurRow(Row& row, Row& scratch, int blur) {
 }
 
 QImage blurred(const QImage& mask, int blur) {
+    // What is as soft as this looks the same from a quarter of the pixels, and takes a tenth of the
+    // time.
+    constexpr int soft = 12;
+    constexpr int shrink = 4;
+    if (blur >= soft) {
+        const QImage small =
+            mask.scaled(mask.size() / shrink, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        return blurred(small.convertToFormat(QImage::Format_Alpha8), blur / shrink)
+            .scaled(mask.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
     const auto width = std::size_t(mask.width());
     const auto height = std::size_t(mask.height());
     std::vector<Row> rows;
