@@ -59,10 +59,11 @@ QString portalParent() {
 }
 
 /// Until the user has read it, or the process is asked to end.
-int showSentence(const QString& sentence) {
+int showSentence(const QString& sentence, Services& services) {
     QMessageBox box(QMessageBox::Warning, u"Quillon"_s, sentence, QMessageBox::Close);
-    const StopNotices stops([&box] { box.reject(); });
+    services.setStopHandler([&box] { box.reject(); });
     box.exec();
+    services.setStopHandler({});
     return 1;
 }
 
@@ -151,7 +152,7 @@ int run(Services& services, const QElapsedTimer& sinceStart) {
     if (std::holds_alternative<ShownElsewhere>(became))
         return 0;
     if (const auto* error = std::get_if<Error>(&became))
-        return showSentence(error->message);
+        return showSentence(error->message, services);
     Application application(services, std::get<std::unique_ptr<Instance>>(std::move(became)));
     shell = &application.shell();
     if (environmentVariable("QUILLON_MEASURE"))

@@ -17,7 +17,7 @@ public:
                        "<busconfig><type>session</type><listen>unix:dir=" + scratch_.root() +
                            "</listen><policy context=\"default\">"
                            "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
-                           "<allow own=\"*\"/></policy></busconfig>");
+                           "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
         process_.start(
             QStringLiteral("dbus-daemon"),
             {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
