@@ -45,7 +45,24 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuLayout& la
     return argument;
 }
 
+QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuEvent& event) {
+    argument.beginStructure();
+    argument << event.id << event.name << event.data << event.time;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuEvent& event) {
+    argument.beginStructure();
+    argument >> event.id >> event.name >> event.data >> event.time;
+    argument.endStructure();
+    return argument;
+}
+
 void MenuObject::registerTypes() {
+    qDBusRegisterMetaType<BusMenuEvent>();
+    qDBusRegisterMetaType<QList<BusMenuEvent>>();
+    qDBusRegisterMetaType<QList<int>>();
     qDBusRegisterMetaType<BusMenuEntry>();
     qDBusRegisterMetaType<QList<BusMenuEntry>>();
     qDBusRegisterMetaType<BusMenuLayout>();
@@ -97,8 +114,20 @@ void MenuObject::Event(int id, const QString& event, const QDBusVariant& /*data*
         chosen();
 }
 
+/// Returns those that there are no entries for: none that would matter.
+QList<int> MenuObject::EventGroup(const QList<BusMenuEvent>& events) {
+    for (const BusMenuEvent& event : events)
+        Event(event.id, event.name, event.data, event.time);
+    return {};
+}
+
+/// Nothing changes before it is shown.
 bool MenuObject::AboutToShow(int /*id*/) {
     return false;
+}
+
+QList<int> MenuObject::AboutToShowGroup(const QList<int>& /*ids*/, QList<int>& /*unknown*/) {
+    return {};
 }
 
 } // namespace quillon

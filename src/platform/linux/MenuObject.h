@@ -26,6 +26,16 @@ struct BusMenuLayout {
 QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuLayout& layout);
 const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuLayout& layout);
 
+/// What a person did with an entry, as the bus carries it: (isvu).
+struct BusMenuEvent {
+    int id = 0;
+    QString name;
+    QDBusVariant data;
+    uint time = 0;
+};
+QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuEvent& event);
+const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuEvent& event);
+
 /// The menu that a desktop's status area shows for our item. One level: the entry 0 holds the
 /// others, which count from 1.
 class MenuObject final : public QObject {
@@ -54,7 +64,9 @@ public Q_SLOTS:
                                                     const QStringList& names);
     QDBusVariant GetProperty(int id, const QString& name);
     void Event(int id, const QString& event, const QDBusVariant& data, uint time);
+    QList<int> EventGroup(const QList<quillon::BusMenuEvent>& events);
     bool AboutToShow(int id);
+    QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& unknown);
     // NOLINTEND(readability-identifier-naming)
 
 Q_SIGNALS:
@@ -72,3 +84,5 @@ private:
 Q_DECLARE_METATYPE(quillon::BusMenuEntry)
 Q_DECLARE_METATYPE(QList<quillon::BusMenuEntry>)
 Q_DECLARE_METATYPE(quillon::BusMenuLayout)
+Q_DECLARE_METATYPE(quillon::BusMenuEvent)
+Q_DECLARE_METATYPE(QList<quillon::BusMenuEvent>)
