@@ -101,7 +101,8 @@ TEST_F(FolderPageTest, ShowsTheGravestTroubleAlone) {
     bench.breakSaving();
     page.setRecursive(true);
     EXPECT_EQ(page.banner().kind, u"error"_s);
-    EXPECT_EQ(page.banner().text, bench.store->lastSaveError()->message);
+    EXPECT_EQ(page.banner().text,
+              u"Quillon can’t save your changes: "_s + bench.store->lastSaveError()->message);
     bench.mendSaving();
     page.setRecursive(false);
     bench.disk.machine.makeFolder("in");
