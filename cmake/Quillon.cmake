@@ -16,12 +16,17 @@ target_compile_definitions(quillon_options INTERFACE
 # One static library a folder. Its links are its permission to include: a folder sees only what it
 # names here and what those name in turn.
 function(quillon_library folder)
-  cmake_parse_arguments(arg "QOBJECTS" "" "LINK" ${ARGN})
+  cmake_parse_arguments(arg "QOBJECTS" "" "LINK;PARTS" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
   file(GLOB sources CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*.h
     ${PROJECT_SOURCE_DIR}/src/${folder}/conditions/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/actions/*.cpp
     ${PROJECT_SOURCE_DIR}/src/${folder}/backends/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/backends/*.h)
+  foreach(part IN LISTS arg_PARTS)
+    file(GLOB found CONFIGURE_DEPENDS
+      ${PROJECT_SOURCE_DIR}/src/${folder}/${part}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/${part}/*.h)
+    list(APPEND sources ${found})
+  endforeach()
   add_library(quillon_${name} STATIC ${sources})
   set_target_properties(quillon_${name} PROPERTIES LINKER_LANGUAGE CXX AUTOMOC ${arg_QOBJECTS})
   target_link_libraries(quillon_${name} PUBLIC quillon_options Qt6::Core ${arg_LINK})

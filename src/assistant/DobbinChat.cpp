@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace quillon {
 
@@ -83,6 +84,7 @@ DobbinChat::DobbinChat(Surroundings surroundings, std::string path, QObject* par
 
 DobbinChat::~DobbinChat() {
     life_.reset();
+    thought_.reset();
 }
 
 bool DobbinChat::isOpen() const {
@@ -122,8 +124,28 @@ bool DobbinChat::ask(const QString& question, std::function<void(const ChatTurn&
     return true;
 }
 
-QCoro::Task<> DobbinChat::think() {
+void DobbinChat::stop() {
     const std::weak_ptr<const void> life = life_;
+    thought_.reset();
+    for (const Question& question : std::exchange(questions_, {})) {
+        const ChatTurn answer{.text = u"Stopped before there was an answer."_s,
+                              .isError = true,
+                              .date = around_.platform.clock.now()};
+        add(answer, question.turnID);
+        if (!life.expired() && question.answered)
+            question.answered(answer);
+        if (life.expired())
+            return;
+    }
+    if (!questions_.empty())
+        think(); // whoever heard of it has asked something
+    else if (isThinking_)
+        setThinking(false);
+}
+
+QCoro::Task<> DobbinChat::think() {
+    thought_ = std::make_shared<int>();
+    const std::weak_ptr<const void> life = thought_;
     while (!questions_.empty()) {
         const Question question = questions_.front();
         std::optional<ChatTurn> answer;
@@ -148,7 +170,7 @@ QCoro::Task<> DobbinChat::think() {
 }
 
 QCoro::Task<std::optional<ChatTurn>> DobbinChat::answerOfModel(QUuid questionID, QString question) {
-    const std::weak_ptr<const void> life = life_;
+    const std::weak_ptr<const void> life = thought_;
     const bool toClaude = co_await around_.assistant().asksClaude();
     if (life.expired())
         co_return std::nullopt;
@@ -195,7 +217,7 @@ QCoro::Task<std::optional<ChatTurn>> DobbinChat::answerOfModel(QUuid questionID,
 
 QCoro::Task<std::vector<DobbinAction>>
 DobbinChat::suggestedChanges(std::shared_ptr<Material> material, ChatTurn answer) {
-    const std::weak_ptr<const void> life = life_;
+    const std::weak_ptr<const void> life = thought_;
     std::vector<DobbinAction> actions;
     const bool proposes = suggestsChange(answer.text);
     if (proposes) {

@@ -65,6 +65,9 @@ public:
     /// asked.
     bool ask(const QString& question, std::function<void(const ChatTurn&)> answered = {});
 
+    /// Gives up on every question that has no answer yet; each gets a turn that says so.
+    void stop();
+
     /// Carries out a change that a turn offers, marks it as done and says what has happened. Fails
     /// with a sentence: `notFound` when the conversation has no such change any more, otherwise
     /// like quillon::apply. A rule to be written is marked and nothing else.
@@ -94,7 +97,7 @@ private:
     struct Material;
 
     QCoro::Task<> think();
-    /// Nothing when the chat has gone.
+    /// Nothing when the chat has gone or nobody waits any more.
     QCoro::Task<std::optional<ChatTurn>> answerOfModel(QUuid questionID, QString question);
     QCoro::Task<std::vector<DobbinAction>> suggestedChanges(std::shared_ptr<Material> material,
                                                             ChatTurn answer);
@@ -112,7 +115,8 @@ private:
     std::deque<Question> questions_; ///< the first is being answered
     bool isThinking_ = false;
     int focusRequest_ = 0;
-    std::shared_ptr<const void> life_; ///< those who wait look whether it is still there
+    std::shared_ptr<const void> life_;    ///< those who wait look whether it is still there
+    std::shared_ptr<const void> thought_; ///< gone once nobody waits for what is being thought
 };
 
 } // namespace quillon

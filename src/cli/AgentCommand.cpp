@@ -4,11 +4,13 @@
 
 namespace quillon {
 
-ExitCode agentCommand(const Console& console, Services& services) {
-    return runAgent(console, services,
-                    [&services](const std::vector<std::string>& arguments, const Console& other) {
-                        return carryOutCommandLine(arguments, other, services);
-                    });
+ExitCode agentCommand(const AgentOptions& options, const Console& console, Services& services) {
+    return runAgent(
+        console, services,
+        [&services](const std::vector<std::string>& arguments, const Console& other) {
+            return carryOutCommandLine(arguments, other, services);
+        },
+        options.wait);
 }
 
 } // namespace quillon

@@ -17,12 +17,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 void addRecipes(const CleanupPlan& plan, LineBuffer& lines) {
-    for (const CleanupRecipe& recipe : plan.recipes) {
-        if (!plan.isChosen(recipe))
+    for (const CleanupRecipe& recipe : plan.choice.recipes) {
+        if (!plan.choice.isChosen(recipe))
             continue;
         lines.add(recipe.title, LineBuffer::Style::strong)
             .add(u"  "_s)
-            .add(recipe.description(plan.daysOf(recipe)));
+            .add(recipe.description(plan.choice.daysOf(recipe)));
         if (!recipe.warning.isEmpty())
             lines.add(u"  "_s).add(recipe.warning, LineBuffer::Style::bad);
         lines.endLine();
@@ -45,8 +45,8 @@ JsonStream begunJson(const CleanupPlan& plan) {
     JsonStream json;
     json.beginObject().key("folder").text(plan.input.folder.path);
     json.key("recipes").beginList();
-    for (const CleanupRecipe& recipe : plan.recipes)
-        if (plan.isChosen(recipe))
+    for (const CleanupRecipe& recipe : plan.choice.recipes)
+        if (plan.choice.isChosen(recipe))
             json.text(recipe.id);
     json.endList();
     return json;

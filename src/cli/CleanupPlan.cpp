@@ -24,29 +24,27 @@ Chosen<CleanupRecipe> recipeNamed(const std::string& id,
     return unknownWord(id, "a recipe", ids);
 }
 
-Chosen<void> chooseRecipes(const CleanupOptions& options, CleanupPlan& plan) {
+Chosen<void> chooseRecipes(const CleanupOptions& options, CleanupChoice& choice) {
     for (const std::string& id : options.recipes) {
-        const auto recipe = recipeNamed(id, plan.recipes);
+        const auto recipe = recipeNamed(id, choice.recipes);
         if (!recipe)
             return std::unexpected(recipe.error());
-        plan.chosen.insert(recipe->id);
+        choice.chosen.insert(recipe->id);
     }
     if (options.recipes.empty())
-        for (const CleanupRecipe& recipe : plan.recipes)
-            if (recipe.isOnByDefault)
-                plan.chosen.insert(recipe.id);
+        choice.chooseDefaults();
 
     for (const auto& [id, days] : options.days) {
-        const auto recipe = recipeNamed(id, plan.recipes);
+        const auto recipe = recipeNamed(id, choice.recipes);
         if (!recipe)
             return std::unexpected(recipe.error());
         if (!recipe->days)
             return refusal(ExitCode::usage,
                            u"The recipe %1 does not ask how old a file is"_s.arg(recipe->id));
-        if (!plan.isChosen(*recipe) && !options.keeps)
+        if (!choice.isChosen(*recipe) && !options.keeps)
             return refusal(ExitCode::usage, u"The recipe %1 is not among those to be followed; add "
                                             "--recipe %1"_s.arg(recipe->id));
-        plan.days.insert(recipe->id, days);
+        choice.days.insert(recipe->id, days);
     }
     return {};
 }
@@ -64,13 +62,6 @@ Chosen<WatchedFolder> folderToClean(const CleanupOptions& options,
 
 } // namespace
 
-std::vector<Rule> CleanupPlan::keptRules() const {
-    QSet<QString> names;
-    for (const Rule& rule : input.folder.rules)
-        names.insert(rule.name);
-    return conversionRules(recipes, chosen, days, input.folder, names);
-}
-
 Chosen<CleanupPlan> planCleanup(const CleanupOptions& options,
                                 const std::vector<WatchedFolder>& watched, const Console& console,
                                 Services& services) {
@@ -79,13 +70,10 @@ Chosen<CleanupPlan> planCleanup(const CleanupOptions& options,
         return std::unexpected(folder.error());
     CleanupPlan plan;
     plan.keeps = options.keeps;
-    plan.recipes = recipesFor(*folder);
-    if (const auto chosen = chooseRecipes(options, plan); !chosen)
+    plan.choice.recipes = recipesFor(*folder);
+    if (const auto chosen = chooseRecipes(options, plan.choice); !chosen)
         return std::unexpected(chosen.error());
-    for (const CleanupRecipe& recipe : plan.recipes)
-        if (plan.isChosen(recipe))
-            plan.input.rules.push_back(recipe.makeRule(*folder, plan.daysOf(recipe)));
-
+    plan.input.rules = plan.choice.rules(*folder);
     plan.input.folder = std::move(*folder);
     plan.input.settings.mayContinue = console.mayContinue;
     auto ready = services.engine(plan.input.settings).readyFiles(plan.input.folder);

@@ -86,8 +86,9 @@ ExitCode give(const Answer& answer, const Console& console) {
 
 ExitCode carryOut(const std::vector<std::string>& arguments, const Command& command,
                   const Console& console, const UserFolders& folders) {
-    if (const auto code = carriedOutByInstance(arguments, console, folders))
-        return *code;
+    if (!findVerb(arguments.front())->standsAlone)
+        if (const auto code = carriedOutByInstance(arguments, console, folders))
+            return *code;
     Services services(folders);
     return onCommandThread(services, [&] { return command(console, services); });
 }

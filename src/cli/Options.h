@@ -138,6 +138,10 @@ struct CleanupOptions {
     bool json = false;
 };
 
+struct AgentOptions {
+    bool wait = false;
+};
+
 struct StatusOptions {
     bool json = false;
 };

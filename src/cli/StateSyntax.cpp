@@ -13,8 +13,11 @@ void addKey(CLI::App& parser, std::string& key) {
 
 } // namespace
 
-Command defineAgent(CLI::App& /*parser*/) {
-    return agentCommand;
+Command defineAgent(CLI::App& parser) {
+    const auto options = std::make_shared<AgentOptions>();
+    parser.add_flag("--wait", options->wait,
+                    "Where Quillon is running already, wait until that has ended");
+    return bound<agentCommand>(options);
 }
 
 Command definePause(CLI::App& /*parser*/) {

@@ -22,6 +22,7 @@ struct Verb {
     /// An option's type name says what may stand there, for help and for completion: "DIR" a
     /// folder, "FILE" or "RULES" a file, "on|off" one of these; so do the names of arguments.
     Command (*define)(CLI::App& parser) = nullptr;
+    bool standsAlone = false; ///< never carried out by a running instance
 };
 
 /// Every verb, in the order of the help; a noun stands before its verbs.

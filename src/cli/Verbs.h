@@ -18,7 +18,7 @@ namespace quillon {
 [[nodiscard]] ExitCode cleanupCommand(const CleanupOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode logCommand(const LogOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode undoCommand(const UndoOptions&, const Console&, Services&);
-[[nodiscard]] ExitCode agentCommand(const Console&, Services&);
+[[nodiscard]] ExitCode agentCommand(const AgentOptions&, const Console&, Services&);
 [[nodiscard]] ExitCode pauseCommand(const Console&, Services&);
 [[nodiscard]] ExitCode resumeCommand(const Console&, Services&);
 [[nodiscard]] ExitCode statusCommand(const StatusOptions&, const Console&, Services&);

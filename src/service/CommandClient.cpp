@@ -171,4 +171,29 @@ std::optional<ExitCode> carriedOutByInstance(const std::vector<std::string>& arg
         .run(arguments, folders.data);
 }
 
+std::optional<int> instanceProcess(const UserFolders& folders, const ClientOptions& options) {
+    auto socket = LocalSocket::connect(controlSocketPath(folders), options.patience);
+    if (!socket || socket->peerUser() != options.user)
+        return std::nullopt;
+    FrameReader reader;
+    const auto end = SteadyClock::now() + options.patience;
+    while (SteadyClock::now() < end) {
+        const auto frame = reader.next();
+        if (!frame)
+            break;
+        if (*frame) {
+            const auto greeting = unpackGreeting((*frame)->payload);
+            const auto process = socket->peerProcess();
+            const bool isOurs = greeting && greeting->dataFolder == folders.data;
+            return isOurs && process ? std::optional(*process) : std::nullopt;
+        }
+        const auto bytes = socket->receive(betweenLooks);
+        if (bytes && !bytes->empty())
+            reader.add(*bytes);
+        else if (bytes || bytes.error().kind != ErrorKind::timedOut)
+            break;
+    }
+    return std::nullopt;
+}
+
 } // namespace quillon

@@ -27,4 +27,9 @@ struct ClientOptions {
 carriedOutByInstance(const std::vector<std::string>& arguments, const Console& console,
                      const UserFolders& folders, const ClientOptions& options = {});
 
+/// The process of the running instance that keeps these folders' data; nothing when there is none,
+/// or when it says nothing. Waits.
+[[nodiscard]] std::optional<int> instanceProcess(const UserFolders& folders,
+                                                 const ClientOptions& options = {});
+
 } // namespace quillon

@@ -24,6 +24,7 @@
 #include "platform/linux/TrashPlaces.h"
 #include "platform/linux/XattrProvenance.h"
 #include "platform/linux/XattrTags.h"
+#include "service/ObservedSettings.h"
 #include "store/EventLoopTimers.h"
 #include "store/StorePlaces.h"
 #include "store/ThreadBackground.h"
@@ -74,7 +75,8 @@ struct Services::Machine {
                       .archives = archives,
                       .clock = clock,
                       .folders = folders};
-    IniSettings settings{joinPath(folders.config, "Quillon.conf")};
+    IniSettings settingsFile{joinPath(folders.config, "Quillon.conf")};
+    ObservedSettings settings{settingsFile};
     DobbinJudge judge{fileSystem, clock};
     SuggestionMemory suggestionMemory{storage, fileSystem, StorePlaces(folders.data)};
 };
@@ -136,7 +138,7 @@ Storage& Services::storage() {
     return machine_->storage;
 }
 
-Settings& Services::settings() {
+ObservedSettings& Services::settings() {
     return machine_->settings;
 }
 
@@ -214,6 +216,14 @@ AIManager& Services::assistant() {
     return assistant_->manager;
 }
 
+Background& Services::background() {
+    return store_->background;
+}
+
+Timers& Services::timers() {
+    return store_->timers;
+}
+
 FolderSuggestions& Services::suggestions() {
     if (!store_->suggestions)
         store_->suggestions = std::make_unique<FolderSuggestions>(
@@ -258,6 +268,11 @@ void Services::hurry() {
 
 void Services::close() {
     store_.reset();
+}
+
+void Services::onNotificationClicked(std::function<void(const std::string& token)> clicked) {
+    if (store_)
+        store_->notifier.onClicked(std::move(clicked));
 }
 
 void Services::stopRequested() {

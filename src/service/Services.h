@@ -2,8 +2,10 @@
 
 #include "engine/EngineSettings.h"
 #include "engine/RuleEngine.h"
+#include "platform/Background.h"
 #include "platform/Platform.h"
-#include "platform/Settings.h"
+#include "platform/Timers.h"
+#include "service/ObservedSettings.h"
 #include "service/StoreAccess.h"
 #include "service/StoreSnapshot.h"
 #include "store/StoreSession.h"
@@ -29,7 +31,7 @@ public:
 
     [[nodiscard]] const Platform& platform() const;
     [[nodiscard]] Storage& storage();
-    [[nodiscard]] Settings& settings();
+    [[nodiscard]] ObservedSettings& settings();
     [[nodiscard]] RuleEngine engine(EngineSettings settings);
     [[nodiscard]] const DobbinJudge& judge() const;
     [[nodiscard]] SuggestionMemory& suggestionMemory();
@@ -51,6 +53,11 @@ public:
     /// these services go.
     [[nodiscard]] AIManager& assistant();
 
+    /// Threads and timers of the event loop, which are there until the store is let go. The store
+    /// must be open.
+    [[nodiscard]] Background& background();
+    [[nodiscard]] Timers& timers();
+
     /// The conversation with the assistant; made when it is first asked for, and there until the
     /// store is let go. The store must be open.
     [[nodiscard]] DobbinChat& chat();
@@ -62,6 +69,10 @@ public:
     /// Opens the store as the one instance that lives on; fails with `timedOut` when there is one
     /// already.
     [[nodiscard]] Expected<AppStore*> startInstance();
+
+    /// What clicking a notification does, which does nothing otherwise. With the desktop's token
+    /// that lets a window come to the front, or empty. The store must be open.
+    void onNotificationClicked(std::function<void(const std::string& token)> clicked);
 
     /// Lets what is under way in the store end, saves, and calls `done`; at once when the store was
     /// never opened.

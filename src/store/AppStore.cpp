@@ -230,6 +230,22 @@ void AppStore::removeFolder(const QUuid& folderID) {
     syncWatching();
 }
 
+bool AppStore::relocateFolder(const QString& path, const QUuid& folderID) {
+    const WatchedFolder* const known = folder(folderID);
+    const WatchedFolder* const there = folderAt(path);
+    if (!known || (there && there != known))
+        return false;
+    const bool countsFiles = known->onlyNewFiles;
+    update(folderID, [&](WatchedFolder& found) { found.path = newFolder(path).path; });
+    // Where it was counts for nothing here: what lies in it is known under other paths.
+    if (countsFiles)
+        setOnlyNewFiles(true, folderID);
+    syncWatching();
+    refreshAccess();
+    runRules(folderID);
+    return true;
+}
+
 void AppStore::setColor(std::optional<int> index, const QUuid& folderID) {
     update(folderID, [&](WatchedFolder& folder) { folder.colorIndex = index; });
 }

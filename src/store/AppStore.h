@@ -98,6 +98,9 @@ public:
     /// folder's id.
     std::optional<QUuid> addFolder(const QString& path);
     void removeFolder(const QUuid& folderID);
+    /// The folder is at that path now: it keeps its id, its rules and its choices, and is tidied
+    /// there. False, and nothing is changed, when it is unknown or another is watched at that path.
+    bool relocateFolder(const QString& path, const QUuid& folderID);
     void setColor(std::optional<int> index, const QUuid& folderID);
     void setSymbol(const QString& symbolName, const QUuid& folderID);
     void setRecursive(bool isRecursive, const QUuid& folderID);

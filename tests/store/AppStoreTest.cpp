@@ -34,6 +34,26 @@ TEST(AppStore, rewritesTheFileAtLaunchAndWritesAllBackWithTheNextSave) {
     EXPECT_EQ(bench.timers.waiting(), 0U);
 }
 
+TEST(AppStore, findsAFolderAgainThatMovedWithItsRulesAndWhatCountedAsHandled) {
+    AppStoreBench bench;
+    const QUuid folderID = bench.addFolder("in");
+    bench.addFolder("other");
+    bench.addRule(bench.mover(u"pdf"_s, "out"), folderID);
+    bench.disk.machine.write("in/old.pdf", "a");
+    bench.store->setOnlyNewFiles(true, folderID);
+    std::filesystem::rename(bench.disk.machine.at("in"), bench.disk.machine.at("moved"));
+    bench.touch("moved/old.pdf", bench.clock.now() - 1h);
+
+    EXPECT_FALSE(bench.store->relocateFolder(bench.path("other"), folderID));
+    EXPECT_FALSE(bench.store->relocateFolder(bench.path("moved"), QUuid::createUuid()));
+    EXPECT_TRUE(bench.store->relocateFolder(bench.path("moved") + u'/', folderID));
+    bench.background.finish();
+    EXPECT_EQ(bench.saved().folders.front().path, bench.path("moved"));
+    EXPECT_EQ(bench.saved().folders.front().rules.size(), 1U);
+    EXPECT_EQ(std::ranges::count(bench.watching.paths(), bench.disk.machine.at("moved")), 1);
+    EXPECT_TRUE(std::filesystem::exists(bench.disk.machine.at("moved/old.pdf")));
+}
+
 TEST(AppStore, readsAFileWithoutTheKeysThatMayBeAbsent) {
     AppStoreBench bench;
     bench.store.reset();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 
@@ -48,8 +49,9 @@ public:
     /// What it has said on standard error.
     [[nodiscard]] std::string said() const;
 
-private:
     [[nodiscard]] QProcessEnvironment environment() const;
+
+private:
     [[nodiscard]] std::string log() const { return home_ + "/agent.log"; }
 
     QString program_;

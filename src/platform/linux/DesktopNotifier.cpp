@@ -22,6 +22,7 @@ struct DesktopNotifier::State {
     QObject receiver;
     std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>(&receiver);
     std::unordered_map<std::uint64_t, std::function<void()>> undos;
+    std::function<void(const std::string&)> clicked;
     std::uint64_t lastToken = 0;
     QThread* thread = nullptr;
     NotificationBus* bus = nullptr; ///< on the thread, and gone with it
@@ -45,24 +46,32 @@ struct DesktopNotifier::State {
 
     void start() {
         thread = new QThread;
-        bus = new NotificationBus(address, [this, box = mailbox](std::uint64_t token, bool chosen) {
-            box->post([this, token, chosen] { ended(token, chosen); });
+        bus = new NotificationBus(address, [this, box = mailbox](std::uint64_t token,
+                                                                 NotificationBus::End end,
+                                                                 const QString& activation) {
+            box->post([this, token, end, activation] { ended(token, end, activation); });
         });
         bus->moveToThread(thread);
         QObject::connect(thread, &QThread::finished, bus, &QObject::deleteLater);
         thread->start();
     }
 
-    void ended(std::uint64_t token, bool chosen) {
+    void ended(std::uint64_t token, NotificationBus::End end, const QString& activation) {
         const auto undo = undos.extract(token);
-        if (chosen && undo)
+        if (end == NotificationBus::End::undo && undo)
             undo.mapped()();
+        if (end == NotificationBus::End::clicked && clicked)
+            clicked(activation.toStdString());
     }
 };
 
 DesktopNotifier::DesktopNotifier(const Environment& environment)
     : state_(std::make_unique<State>(sessionBusAddress(environment))) {}
 DesktopNotifier::~DesktopNotifier() = default;
+
+void DesktopNotifier::onClicked(std::function<void(const std::string& token)> clicked) {
+    state_->clicked = std::move(clicked);
+}
 
 void DesktopNotifier::post(const Notification& notification) {
     State& state = *state_;
@@ -73,7 +82,8 @@ void DesktopNotifier::post(const Notification& notification) {
     NotificationBus::Request request{.token = ++state.lastToken,
                                      .title = notification.title,
                                      .body = notification.body,
-                                     .offersUndo = bool(notification.undo)};
+                                     .offersUndo = bool(notification.undo),
+                                     .canBeClicked = bool(state.clicked)};
     if (notification.undo)
         state.undos.emplace(request.token, notification.undo);
     QMetaObject::invokeMethod(state.bus, [bus = state.bus, request] { bus->show(request); });

@@ -3,7 +3,9 @@
 #include "platform/Notifier.h"
 #include "platform/linux/LinuxUserFolders.h"
 
+#include <functional>
 #include <memory>
+#include <string>
 
 namespace quillon {
 
@@ -19,6 +21,10 @@ public:
     DesktopNotifier& operator=(const DesktopNotifier&) = delete;
 
     void post(const Notification& notification) override;
+
+    /// What clicking a notification does from now on, on the event loop's thread. With the
+    /// desktop's token that lets a window come to the front, or empty.
+    void onClicked(std::function<void(const std::string& token)> clicked);
 
 private:
     struct State;

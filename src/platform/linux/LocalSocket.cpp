@@ -23,6 +23,14 @@ bool setSendPatience(int descriptor, std::chrono::milliseconds patience) {
     return ::setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &time, sizeof time) == 0;
 }
 
+Expected<ucred> peerOf(const Descriptor& descriptor) {
+    ucred peer = {};
+    socklen_t size = sizeof peer;
+    if (::getsockopt(descriptor.get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0)
+        return systemFailure();
+    return peer;
+}
+
 } // namespace
 
 Expected<LocalSocket> LocalSocket::connect(const std::string& path,
@@ -49,11 +57,17 @@ Expected<LocalSocket> LocalSocket::connect(const std::string& path,
 }
 
 Expected<unsigned> LocalSocket::peerUser() const {
-    ucred peer = {};
-    socklen_t size = sizeof peer;
-    if (::getsockopt(descriptor_.get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0)
-        return systemFailure();
-    return peer.uid;
+    const auto peer = peerOf(descriptor_);
+    if (!peer)
+        return std::unexpected(peer.error());
+    return peer->uid;
+}
+
+Expected<int> LocalSocket::peerProcess() const {
+    const auto peer = peerOf(descriptor_);
+    if (!peer)
+        return std::unexpected(peer.error());
+    return int(peer->pid);
 }
 
 bool LocalSocket::send(std::string_view bytes) {

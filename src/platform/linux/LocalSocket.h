@@ -23,6 +23,9 @@ public:
     /// The user whose process is at the other end.
     [[nodiscard]] Expected<unsigned> peerUser() const;
 
+    /// The process at the other end; it may have ended.
+    [[nodiscard]] Expected<int> peerProcess() const;
+
     /// Waits until all of it is on its way; false when the other end is gone.
     [[nodiscard]] bool send(std::string_view bytes);
     /// Never waits; true as well when the other end has so much to read already that this, which

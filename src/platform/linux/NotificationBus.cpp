@@ -19,6 +19,7 @@ namespace {
 constexpr auto serviceName = "org.freedesktop.Notifications"_L1;
 constexpr auto objectPath = "/org/freedesktop/Notifications"_L1;
 constexpr auto undoAction = "undo"_L1;
+constexpr auto clickAction = "default"_L1;
 
 // More can't be of use to anybody once a slow service wakes up.
 constexpr qsizetype mostWaiting = 20;
@@ -44,12 +45,12 @@ NotificationBus::~NotificationBus() {
 
 void NotificationBus::show(const Request& request) {
     if (!connectToBus())
-        return ended_(request.token, false);
+        return ended_(request.token, End::ignored, {});
     if (abilities_)
         return send(request);
     waiting_.append(request);
     if (waiting_.size() > mostWaiting)
-        ended_(waiting_.takeFirst().token, false);
+        ended_(waiting_.takeFirst().token, End::ignored, {});
     if (!isAsking_)
         askForAbilities();
 }
@@ -68,6 +69,8 @@ bool NotificationBus::connectToBus() {
                          SLOT(actionInvoked(uint, QString)));
     connection_->connect(serviceName, objectPath, serviceName, u"NotificationClosed"_s, this,
                          SLOT(notificationClosed(uint, uint)));
+    connection_->connect(serviceName, objectPath, serviceName, u"ActivationToken"_s, this,
+                         SLOT(activationTokenCame(uint, QString)));
     watcher_ = std::make_unique<QDBusServiceWatcher>(serviceName, *connection_,
                                                      QDBusServiceWatcher::WatchForOwnerChange);
     connect(watcher_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -109,49 +112,60 @@ void NotificationBus::abilitiesArrived(QDBusPendingCallWatcher& call) {
 }
 
 void NotificationBus::send(const Request& request) {
-    const bool offersUndo = request.offersUndo && abilities_->actions;
+    QStringList actions;
+    if (abilities_->actions && request.canBeClicked)
+        actions << clickAction << u"Open Quillon"_s;
+    if (abilities_->actions && request.offersUndo)
+        actions << undoAction << u"Undo"_s;
     QDBusMessage message = callOf(u"Notify"_s);
     message << u"Quillon"_s << 0U << u"quillon"_s << request.title
-            << (abilities_->markup ? escaped(request.body) : request.body)
-            << (offersUndo ? QStringList{undoAction, u"Undo"_s} : QStringList())
+            << (abilities_->markup ? escaped(request.body) : request.body) << actions
             << QVariantMap{{u"desktop-entry"_s, u"quillon"_s}} << -1;
     auto* const call = new QDBusPendingCallWatcher(connection_->asyncCall(message), this);
     connect(call, &QDBusPendingCallWatcher::finished, this,
-            [this, call, offersUndo, token = request.token] { sent(token, offersUndo, *call); });
+            [this, call, isAnswered = !actions.isEmpty(), token = request.token] {
+                sent(token, isAnswered, *call);
+            });
 }
 
-void NotificationBus::sent(std::uint64_t token, bool offersUndo, QDBusPendingCallWatcher& call) {
+void NotificationBus::sent(std::uint64_t token, bool isAnswered, QDBusPendingCallWatcher& call) {
     call.deleteLater();
     const QDBusPendingReply<uint> reply = call;
-    if (reply.isError() || !offersUndo)
-        return ended_(token, false);
+    if (reply.isError() || !isAnswered)
+        return ended_(token, End::ignored, {});
     tokens_.insert(reply.value(), token);
 }
 
 void NotificationBus::actionInvoked(uint id, const QString& action) {
     if (action == undoAction)
-        end(id, true);
+        end(id, End::undo);
+    else if (action == clickAction)
+        end(id, End::clicked);
 }
 
 void NotificationBus::notificationClosed(uint id, uint) {
-    end(id, false);
+    end(id, End::ignored);
 }
 
-void NotificationBus::end(uint id, bool chosen) {
+void NotificationBus::activationTokenCame(uint, const QString& activation) {
+    activation_ = activation;
+}
+
+void NotificationBus::end(uint id, End end) {
     if (const auto token = tokens_.constFind(id); token != tokens_.constEnd())
-        ended_(tokens_.take(id), chosen);
+        ended_(tokens_.take(id), end, std::exchange(activation_, {}));
 }
 
 /// What the service that is gone has shown is gone with it.
 void NotificationBus::serviceGone() {
     abilities_.reset();
     for (const std::uint64_t token : std::exchange(tokens_, {}))
-        ended_(token, false);
+        ended_(token, End::ignored, {});
 }
 
 void NotificationBus::dropWaiting() {
     for (const Request& request : std::exchange(waiting_, {}))
-        ended_(request.token, false);
+        ended_(request.token, End::ignored, {});
 }
 
 } // namespace quillon

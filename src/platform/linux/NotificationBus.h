@@ -27,9 +27,12 @@ public:
         QString title;
         QString body;
         bool offersUndo = false;
+        bool canBeClicked = false;
     };
-    /// Nothing more will come of the token; `chosen` when the user has chosen "Undo".
-    using Ended = std::function<void(std::uint64_t token, bool chosen)>;
+    enum class End { ignored, undo, clicked };
+    /// Nothing more will come of the token. `activation` is the desktop's own token that lets a
+    /// window come to the front, or empty.
+    using Ended = std::function<void(std::uint64_t token, End end, const QString& activation)>;
 
     /// `address` is that of the message bus; `ended` is called on this object's thread.
     NotificationBus(QString address, Ended ended);
@@ -40,6 +43,7 @@ public:
 private Q_SLOTS:
     void actionInvoked(uint id, const QString& action);
     void notificationClosed(uint id, uint reason);
+    void activationTokenCame(uint id, const QString& activation);
 
 private:
     struct Abilities {
@@ -52,10 +56,10 @@ private:
     void askForAbilities();
     void abilitiesArrived(QDBusPendingCallWatcher& call);
     void send(const Request& request);
-    void sent(std::uint64_t token, bool offersUndo, QDBusPendingCallWatcher& call);
+    void sent(std::uint64_t token, bool isAnswered, QDBusPendingCallWatcher& call);
     void serviceGone();
     void dropWaiting();
-    void end(uint id, bool chosen);
+    void end(uint id, End end);
 
     QString address_;
     Ended ended_;
@@ -65,7 +69,8 @@ private:
     bool isAsking_ = false;
     std::optional<Abilities> abilities_; ///< of the service that runs now
     QList<Request> waiting_;             ///< for the abilities
-    QHash<uint, std::uint64_t> tokens_;  ///< of what is shown with "Undo", by the service's id
+    QHash<uint, std::uint64_t> tokens_;  ///< of what is shown with actions, by the service's id
+    QString activation_;                 ///< for the action that comes next
 };
 
 } // namespace quillon

@@ -1,0 +1,16 @@
+# Writes below ${to} what the command ${quillon} says about itself.
+function(say_into file)
+  get_filename_component(folder "${file}" DIRECTORY)
+  file(MAKE_DIRECTORY "${folder}")
+  execute_process(COMMAND "${quillon}" ${ARGN} OUTPUT_FILE "${file}" COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+execute_process(COMMAND "${quillon}" manual --list OUTPUT_VARIABLE pages COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "[^\n]+" pages "${pages}")
+foreach(page IN LISTS pages)
+  string(REGEX REPLACE "^quillon-?" "" verb "${page}")
+  say_into("${to}/man/man1/${page}.1" manual ${verb})
+endforeach()
+say_into("${to}/bash-completion/completions/quillon" completions bash)
+say_into("${to}/zsh/vendor-completions/_quillon" completions zsh)
+say_into("${to}/fish/vendor_completions.d/quillon.fish" completions fish)

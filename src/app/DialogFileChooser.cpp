@@ -1,0 +1,43 @@
+#include "app/DialogFileChooser.h"
+
+namespace quillon {
+namespace {
+
+void open(QFileDialog& dialog, const std::string& start, FileChooser::Chosen chosen) {
+    dialog.setAttribute(Qt::WA_DeleteOnClose);
+    if (!start.empty())
+        dialog.setDirectory(QString::fromStdString(start));
+    QObject::connect(&dialog, &QFileDialog::finished, &dialog, [&dialog, chosen](int result) {
+        const QStringList files = dialog.selectedFiles();
+        chosen(result == QDialog::Accepted && !files.isEmpty()
+                   ? std::optional(files.first().toStdString())
+                   : std::nullopt);
+    });
+    dialog.open();
+}
+
+} // namespace
+
+void DialogFileChooser::chooseFolder(const QString& title, const std::string& start,
+                                     Chosen chosen) {
+    auto* const dialog = new QFileDialog(nullptr, title);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    open(*dialog, start, std::move(chosen));
+}
+
+void DialogFileChooser::chooseFile(const QString& title, const std::string& start, Chosen chosen) {
+    auto* const dialog = new QFileDialog(nullptr, title);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    open(*dialog, start, std::move(chosen));
+}
+
+void DialogFileChooser::chooseNewFile(const QString& title, const QString& suggestedName,
+                                      Chosen chosen) {
+    auto* const dialog = new QFileDialog(nullptr, title);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->selectFile(suggestedName);
+    open(*dialog, {}, std::move(chosen));
+}
+
+} // namespace quillon

@@ -1,0 +1,66 @@
+#include "platform/linux/PortalRequest.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QUuid>
+
+namespace quillon {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr auto portalName = "org.freedesktop.portal.Desktop"_L1;
+constexpr auto portalPath = "/org/freedesktop/portal/desktop"_L1;
+
+} // namespace
+
+void PortalRequest::send(QDBusConnection connection, const Call& call, Answered answered,
+                         std::function<void()> failed) {
+    auto* const request = new PortalRequest(std::move(connection));
+    request->answered_ = std::move(answered);
+    request->failed_ = std::move(failed);
+    const QString token = u"quillon"_s + QUuid::createUuid().toString(QUuid::Id128);
+    const QString sender = request->connection_.baseService().mid(1).replace(u'.', u'_');
+    // Before the call: the answer may come at once.
+    request->listenAt(portalPath + u"/request/"_s + sender + u'/' + token);
+
+    QVariantMap options = call.options;
+    options.insert(u"handle_token"_s, token);
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(portalName, portalPath, call.interface, call.method);
+    message.setArguments(call.arguments + QVariantList{options});
+    auto* const watcher =
+        new QDBusPendingCallWatcher(request->connection_.asyncCall(message), request);
+    connect(watcher, &QDBusPendingCallWatcher::finished, request,
+            [request, watcher] { request->handled(watcher->reply()); });
+}
+
+void PortalRequest::listenAt(const QString& path) {
+    path_ = path;
+    connection_.connect(portalName, path_, u"org.freedesktop.portal.Request"_s, u"Response"_s, this,
+                        SLOT(respond(uint, QVariantMap)));
+}
+
+void PortalRequest::handled(const QDBusMessage& reply) {
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        deleteLater();
+        if (const auto failed = std::exchange(failed_, {}))
+            failed();
+        return;
+    }
+    // An old portal names the request itself.
+    const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
+    if (path != path_)
+        listenAt(path);
+}
+
+void PortalRequest::respond(uint response, const QVariantMap& results) {
+    deleteLater();
+    failed_ = {};
+    if (const auto answered = std::exchange(answered_, {}))
+        answered(response == 0 ? std::optional(results) : std::nullopt);
+}
+
+} // namespace quillon

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Background.h"
+#include "platform/FileManager.h"
+#include "platform/FileSystem.h"
+#include "store/AppStore.h"
+#include "ui/Toasts.h"
+
+#include <QObject>
+#include <QSet>
+
+namespace quillon {
+
+/// What can be done with an entry of the activity log, wherever it is shown. Entries are named by
+/// their ids.
+class EntryCommands final : public QObject {
+    Q_OBJECT
+
+public:
+    /// All borrowed for the object's life.
+    struct Surroundings {
+        AppStore& store;
+        const FileSystem& fileSystem;
+        Background& background;
+        FileManager& fileManager;
+        Toasts& toasts;
+    };
+
+    explicit EntryCommands(const Surroundings& around, QObject* parent = nullptr);
+
+    /// Shows the file where it is now, or else the folder that it was in.
+    Q_INVOKABLE void reveal(const QString& entryID);
+    /// Puts the file back, and tells what came of it.
+    Q_INVOKABLE void undo(const QString& entryID);
+    /// Whether it is being undone.
+    [[nodiscard]] bool isUndoing(const QUuid& entryID) const { return undoing_.contains(entryID); }
+
+private:
+    [[nodiscard]] const LogEntry* find(const QString& entryID) const;
+    void undone(const QUuid& entryID, const AppStore::UndoReport& report);
+
+    Surroundings around_;
+    QSet<QUuid> undoing_;
+};
+
+} // namespace quillon

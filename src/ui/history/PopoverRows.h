@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace quillon {
+
+/// A folder in the popover.
+struct PopoverFolder {
+    Q_GADGET
+    Q_PROPERTY(QString key MEMBER key)
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(int tint MEMBER tint)
+    Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(QString statusText MEMBER statusText)
+    Q_PROPERTY(bool isTrouble MEMBER isTrouble)
+    Q_PROPERTY(bool canRun MEMBER canRun)
+    Q_PROPERTY(bool isRunning MEMBER isRunning)
+
+public:
+    QString key = {}; ///< its id
+    QString name = {};
+    int tint = 0;
+    QString symbol = {};
+    QString statusText = {};
+    bool isTrouble = false;
+    bool canRun = true;
+    bool isRunning = false;
+
+    bool operator==(const PopoverFolder&) const = default;
+};
+
+/// One of the newest entries there.
+struct PopoverEntry {
+    Q_GADGET
+    Q_PROPERTY(QString key MEMBER key)
+    Q_PROPERTY(QString fileName MEMBER fileName)
+    Q_PROPERTY(QString kind MEMBER kind)
+    Q_PROPERTY(QString secondLine MEMBER secondLine)
+    Q_PROPERTY(QString timeText MEMBER timeText)
+    Q_PROPERTY(bool isError MEMBER isError)
+
+public:
+    QString key = {}; ///< its id
+    QString fileName = {};
+    QString kind = {};
+    QString secondLine = {};
+    QString timeText = {};
+    bool isError = false;
+
+    bool operator==(const PopoverEntry&) const = default;
+};
+
+} // namespace quillon

@@ -1,0 +1,13 @@
+import QtQuick
+
+/// A folder's tint and symbol.
+Tile {
+    id: tile
+
+    property int tint: 0
+    property string symbol
+
+    color: Theme.tint(tint)
+    iconColor: Theme.onTint
+    iconName: symbol === "" ? "folder" : symbol
+}

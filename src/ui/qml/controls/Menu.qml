@@ -1,0 +1,55 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// Items are `MenuItem`, `MenuDivider` and further menus; open it with popup() or open().
+T.Menu {
+    id: menu
+
+    property string iconName
+
+    implicitWidth: Math.max(200, contentWidthOfItems + leftPadding + rightPadding)
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    margins: 12
+    padding: 5
+    overlap: 5
+    cascade: true
+
+    readonly property real contentWidthOfItems: {
+        let most = 0;
+        for (let index = 0; index < count; ++index)
+            most = Math.max(most, itemAt(index).implicitWidth);
+        return most;
+    }
+
+    delegate: MenuItem {}
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: menu.contentModel
+        interactive: Window.window ? contentHeight + menu.topPadding + menu.bottomPadding > Window.window.height : false
+        clip: interactive
+        currentIndex: menu.currentIndex
+        boundsBehavior: Flickable.StopAtBounds
+        Keys.onPressed: event => {
+            const letter = event.modifiers & ~Qt.ShiftModifier ? "" : event.text.trim().toLowerCase();
+            event.accepted = letter !== "" && menu.goTo(letter);
+        }
+    }
+
+    /// The next item that begins with that letter becomes the current one.
+    function goTo(letter) {
+        for (let step = 1; step <= count; ++step) {
+            const index = (Math.max(0, currentIndex) + step) % count;
+            const item = itemAt(index);
+            if (item && item.enabled && item.visible && item.text && item.text.toLowerCase().startsWith(letter)) {
+                currentIndex = index;
+                item.forceActiveFocus(Qt.TabFocusReason);
+                return true;
+            }
+        }
+        return false;
+    }
+
+    background: MenuSurface {}
+    enter: MenuEnter {}
+}

@@ -1,0 +1,132 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// A choice from a menu. model and textRole as a ComboBox's; iconRole names the icon of an item.
+T.ComboBox {
+    id: control
+
+    property string label
+    property string iconName
+    property string iconRole
+    property bool inRow: false
+    /// The widest item decides where it is wider.
+    property int leastWidth: 0
+    property int radius: Theme.rControl
+
+    implicitHeight: inRow ? Theme.controlInRow : Theme.control
+    implicitWidth: Math.max(leastWidth, widest + leftPadding + rightPadding)
+    leftPadding: mirrored ? 30 : 11
+    rightPadding: mirrored ? 11 : 30
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    readonly property string currentIcon: iconRole !== "" && currentIndex >= 0 ? iconOf(currentIndex) : iconName
+    readonly property int iconRoom: currentIcon !== "" ? 23 : 0
+    readonly property real widest: {
+        let most = 0;
+        for (let index = 0; index < count; ++index)
+            most = Math.max(most, metrics.advanceWidth(textAt(index)));
+        return Math.ceil(most) + iconRoom + 1;
+    }
+
+    function iconOf(index) {
+        if (Array.isArray(model))
+            return model[index][iconRole] || "";
+        const item = delegateModel && delegateModel.items ? delegateModel.items.get(index) : null;
+        return item ? item.model[iconRole] || "" : "";
+    }
+
+    // The release of the key would choose from a menu that its press opened.
+    property bool opensOnRelease: false
+
+    function isReturn(event) {
+        return event.modifiers === Qt.NoModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter);
+    }
+
+    Keys.onPressed: event => {
+        opensOnRelease = isReturn(event) && !popup.visible;
+        event.accepted = opensOnRelease;
+    }
+    Keys.onReleased: event => {
+        event.accepted = opensOnRelease && isReturn(event);
+        if (event.accepted)
+            popup.open();
+        opensOnRelease = false;
+    }
+
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: label
+    Accessible.description: displayText
+    Accessible.onPressAction: popup.open()
+
+    FontMetrics {
+        id: metrics
+        font.family: Theme.fontFamily
+        font.pixelSize: Theme.bodyMedium.size
+        font.weight: Theme.bodyMedium.weight
+    }
+
+    contentItem: Item {
+        Icon {
+            id: icon
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            name: control.currentIcon
+            color: Theme.text2
+        }
+
+        Label {
+            anchors.left: parent.left
+            anchors.leftMargin: control.iconRoom
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: control.displayText
+            style: Theme.bodyMedium
+            Accessible.ignored: true
+        }
+    }
+
+    indicator: Glyph {
+        x: control.mirrored ? 11 : control.width - width - 11
+        anchors.verticalCenter: parent.verticalCenter
+        name: "chevron"
+        size: 10
+        color: Theme.text2
+    }
+
+    background: Rectangle {
+        radius: control.radius
+        color: control.hovered || control.down ? Theme.hover : Theme.card
+        border.width: 1
+        border.color: Theme.lineStrong
+    }
+
+    delegate: PickerItem {
+        picker: control
+    }
+
+    popup: T.Popup {
+        y: control.height + 4
+        width: Math.max(control.width, control.widest + 60 + (control.iconRole !== "" && control.iconRoom === 0 ? 26 : 0))
+        height: Math.min(contentItem.implicitHeight + topPadding + bottomPadding, control.Window.height - 24)
+        margins: 12
+        padding: 5
+
+        contentItem: ListView {
+            implicitHeight: contentHeight
+            clip: true
+            model: control.delegateModel
+            currentIndex: control.highlightedIndex
+            boundsBehavior: Flickable.StopAtBounds
+            highlightMoveDuration: 0
+        }
+
+        background: MenuSurface {}
+        enter: MenuEnter {}
+    }
+
+    FocusRing {
+        target: control
+    }
+}

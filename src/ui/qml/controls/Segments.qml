@@ -1,0 +1,117 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// One of two to four short choices. model: a list of words, or of objects with textRole.
+Rectangle {
+    id: control
+
+    property var model: []
+    property string textRole
+    property int currentIndex: 0
+    property string label
+
+    signal activated(int index)
+
+    implicitWidth: row.implicitWidth + 4
+    implicitHeight: Theme.controlInRow
+    radius: Theme.rControl
+    color: Theme.hover
+    border.width: Theme.isHighContrast ? 1 : 0
+    border.color: Theme.line
+    opacity: enabled ? 1 : Theme.disabledOpacity
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label
+
+    function choose(index, byKey) {
+        const kept = Math.max(0, Math.min(repeater.count - 1, index));
+        if (byKey)
+            repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
+        if (kept !== currentIndex) {
+            currentIndex = kept;
+            activated(kept);
+        }
+    }
+
+    Row {
+        id: row
+        anchors.centerIn: parent
+        height: parent.height - 4
+
+        Repeater {
+            id: repeater
+            model: control.model
+
+            T.RadioButton {
+                checkable: false // what is chosen is for whoever shows it to say
+                autoExclusive: false
+                id: segment
+
+                required property int index
+                required property var modelData
+                readonly property bool chosen: index === control.currentIndex
+                readonly property int radius: Theme.rTile
+
+                text: control.textRole === "" ? modelData : modelData[control.textRole]
+                height: row.height
+                implicitWidth: Math.max(words.implicitWidth, strong.advanceWidth) + 26
+                focusPolicy: chosen ? Qt.StrongFocus : Qt.ClickFocus
+                hoverEnabled: true
+                onClicked: control.choose(index, false)
+                Keys.onPressed: event => {
+                    const step = control.LayoutMirroring.enabled ? -1 : 1;
+                    const target = {
+                        [Qt.Key_Left]: index - step,
+                        [Qt.Key_Right]: index + step,
+                        [Qt.Key_Up]: index - 1,
+                        [Qt.Key_Down]: index + 1,
+                        [Qt.Key_Home]: 0,
+                        [Qt.Key_End]: repeater.count - 1
+                    }[event.key];
+                    event.accepted = target !== undefined && event.modifiers === Qt.NoModifier;
+                    if (event.accepted)
+                        control.choose(target, true);
+                }
+
+                Accessible.role: Accessible.RadioButton
+                Accessible.name: control.label === "" ? text : control.label + " " + text
+                Accessible.checkable: true
+                Accessible.checked: chosen
+                Accessible.onPressAction: control.choose(index, false)
+                Accessible.onToggleAction: control.choose(index, false)
+
+                TextMetrics {
+                    id: strong
+                    text: segment.text
+                    font: words.font
+                }
+
+                contentItem: Item {
+                    Label {
+                        id: words
+                        anchors.centerIn: parent
+                        text: segment.text
+                        style: Theme.bodyMedium
+                        color: segment.chosen || segment.hovered ? Theme.text1 : Theme.text2
+                        showsTip: false
+                        Accessible.ignored: true
+                    }
+                }
+
+                background: Rectangle {
+                    radius: segment.radius
+                    color: segment.chosen ? Theme.card : "transparent"
+                    border.width: segment.chosen ? 1 : 0
+                    border.color: Theme.line
+
+                    Shadow {
+                        elevation: segment.chosen ? 1 : 0
+                    }
+                }
+
+                FocusRing {
+                    target: segment
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,123 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// One of the seven tags, by the word that is stored.
+Row {
+    id: control
+
+    property string current
+    property string label: qsTr("Tag")
+    readonly property var words: ["red", "orange", "yellow", "green", "blue", "purple", "gray"]
+    readonly property var names: [qsTr("Red"), qsTr("Orange"), qsTr("Yellow"), qsTr("Green"), qsTr("Blue"), qsTr("Purple"), qsTr("Grey")]
+    readonly property int currentIndex: words.indexOf(current)
+
+    signal chosen(string word)
+
+    spacing: 6
+    opacity: enabled ? 1 : Theme.disabledOpacity
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label
+
+    function choose(index, byKey) {
+        const kept = (index + words.length) % words.length;
+        if (byKey)
+            repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
+        if (kept !== currentIndex) {
+            current = words[kept];
+            chosen(words[kept]);
+        }
+    }
+
+    Repeater {
+        id: repeater
+        model: control.words
+
+        T.RadioButton {
+            checkable: false // what is chosen is for whoever shows it to say
+            autoExclusive: false
+            id: dot
+
+            required property int index
+            required property string modelData
+            readonly property bool isChosen: index === control.currentIndex
+            readonly property int radius: 12
+
+            width: 24
+            height: 24
+            hoverEnabled: true
+            text: control.names[index]
+            focusPolicy: isChosen || control.currentIndex < 0 && index === 0 ? Qt.StrongFocus : Qt.ClickFocus
+            onClicked: control.choose(index, false)
+            Keys.onPressed: event => {
+                const step = control.LayoutMirroring.enabled ? -1 : 1;
+                const target = {
+                    [Qt.Key_Left]: index - step,
+                    [Qt.Key_Right]: index + step,
+                    [Qt.Key_Up]: index - 1,
+                    [Qt.Key_Down]: index + 1,
+                    [Qt.Key_Home]: 0,
+                    [Qt.Key_End]: control.words.length - 1
+                }[event.key];
+                event.accepted = target !== undefined && event.modifiers === Qt.NoModifier;
+                if (event.accepted)
+                    control.choose(target, true);
+            }
+
+            Accessible.role: Accessible.RadioButton
+            Accessible.name: text
+            Accessible.checkable: true
+            Accessible.checked: isChosen
+            Accessible.onPressAction: control.choose(index, false)
+            Accessible.onToggleAction: control.choose(index, false)
+
+            contentItem: Item {
+                Rectangle {
+                    anchors.fill: parent
+                    visible: dot.isChosen
+                    radius: 12
+                    color: "transparent"
+                    border.width: 2
+                    border.color: Theme.tagColor(dot.modelData)
+                }
+
+                Rectangle {
+                    anchors.centerIn: parent
+                    width: 16
+                    height: 16
+                    radius: 8
+                    color: Theme.tagColor(dot.modelData)
+
+                    Glyph {
+                        anchors.centerIn: parent
+                        visible: dot.isChosen
+                        name: "tick"
+                        size: 10
+                        color: Theme.onTint
+                    }
+                }
+            }
+
+            FocusRing {
+                target: dot
+            }
+
+            Loader {
+                active: dot.hovered
+                sourceComponent: ToolTip {
+                    parent: dot
+                    text: dot.text
+                    visible: true
+                }
+            }
+        }
+    }
+
+    Label {
+        anchors.verticalCenter: parent.verticalCenter
+        leftPadding: Theme.s2
+        visible: control.currentIndex >= 0
+        text: control.currentIndex >= 0 ? control.names[control.currentIndex] : ""
+        color: Theme.text2
+        Accessible.ignored: true
+    }
+}

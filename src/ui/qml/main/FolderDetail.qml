@@ -1,0 +1,104 @@
+import QtQuick
+import Quillon
+
+/// The selected folder: its header and banner, and below them its rules and its activity, which
+/// scroll together.
+Item {
+    id: detail
+
+    property int startMargin: Theme.s6
+    property int endMargin: Theme.s6
+    /// Kept free at the end of the first row.
+    property real roomForButtons: 0
+    property Item carried
+    readonly property bool isCompact: width < 600
+    readonly property alias header: header
+    readonly property alias rules: rules
+    readonly property Item activity: footer.activity
+
+    function openTiming() {
+        header.openTiming();
+    }
+
+    function openMenu() {
+        header.openMenu();
+    }
+
+    function carryRule(x, y) {
+        const place = rules.mapFromItem(carried.parent, x, y);
+        rules.dragTo(place.x, place.y);
+    }
+
+    function dropRule(x, y) {
+        carryRule(x, y);
+        const to = rules.dropRow();
+        if (to >= 0)
+            App.page.rules.moveTo(carried.key, to);
+    }
+
+    function ruleGone() {
+        rules.dragEnded();
+    }
+
+    DragArea {
+        width: parent.width
+        height: 60
+    }
+
+    FolderHeader {
+        id: header
+        anchors.left: parent.left
+        anchors.leftMargin: detail.startMargin
+        anchors.right: parent.right
+        anchors.rightMargin: detail.endMargin
+        roomForButtons: detail.roomForButtons
+        isCompact: detail.isCompact
+    }
+
+    FolderBannerBar {
+        id: banner
+        anchors.top: header.bottom
+        anchors.left: header.left
+        anchors.right: header.right
+    }
+
+    // The heading and the activity scroll with the list, but are no part of it: the Tab key takes what
+    // lies in a list in an order of its own.
+    Item {
+        anchors.top: banner.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        clip: true
+
+        RuleListHeader {
+            id: heading
+            y: (rules.headerItem ? rules.headerItem.y : 0) - rules.contentY
+            z: 1
+            width: parent.width
+            startMargin: detail.startMargin
+            endMargin: detail.endMargin
+            isCompact: detail.isCompact
+        }
+
+        RuleList {
+            id: rules
+            anchors.fill: parent
+            headingHeight: heading.height
+            activityHeight: footer.height
+            startMargin: detail.startMargin
+            endMargin: detail.endMargin
+            carried: detail.carried
+            onFocusTurnedDown: heading.takeFocus()
+        }
+
+        RuleListFooter {
+            id: footer
+            y: (rules.footerItem ? rules.footerItem.y : 0) - rules.contentY
+            z: 1
+            width: parent.width
+            startMargin: detail.startMargin
+            endMargin: detail.endMargin
+            isCompact: detail.isCompact
+        }
+    }
+}

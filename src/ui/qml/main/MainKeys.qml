@@ -1,0 +1,168 @@
+import QtQuick
+import Quillon
+
+/// The keys of the main window.
+Item {
+    id: keys
+
+    property Item sidebar
+    property Item detail
+    property Item chat
+    readonly property bool hasFolder: enabled && App.page.hasFolder
+    readonly property Item focused: Window.activeFocusItem
+    readonly property bool editsText: focused && focused.cursorPosition !== undefined
+
+    function areaHolds(area) {
+        for (let item = focused; item; item = item.parent)
+            if (item === area)
+                return true;
+        return false;
+    }
+
+    /// The areas in reading order, each with what takes the focus there.
+    function areas() {
+        const all = [sidebar.list];
+        if (App.page.hasFolder)
+            all.push(detail.header, detail.rules, detail.activity);
+        if (chat)
+            all.push(chat);
+        return all;
+    }
+
+    function goToArea(step) {
+        const all = areas();
+        let at = all.findIndex(area => areaHolds(area));
+        // Within the list of rules lie its heading and the activity.
+        if (App.page.hasFolder && areaHolds(detail.activity))
+            at = all.indexOf(detail.activity);
+        for (let i = 0; i < all.length; ++i) {
+            at = (at + step + all.length) % all.length;
+            const area = all[at];
+            if (area.takeFocus === undefined)
+                area.forceActiveFocus(Qt.TabFocusReason);
+            else if (!area.takeFocus())
+                continue;
+            return;
+        }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Shift+N"
+        enabled: keys.enabled
+        onActivated: App.folders.chooseNew()
+    }
+
+    Repeater {
+        model: 9
+
+        Item {
+            required property int index
+
+            Shortcut {
+                sequence: "Ctrl+" + (index + 1)
+                enabled: keys.enabled
+                onActivated: App.folders.selectAt(index)
+            }
+        }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+N"
+        enabled: keys.hasFolder
+        onActivated: App.editor.create(App.page.folderID)
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Shift+P"
+        enabled: keys.hasFolder
+        onActivated: App.presets.open(App.page.folderID)
+    }
+
+    Shortcut {
+        sequence: "Ctrl+P"
+        enabled: keys.hasFolder && App.page.canRun
+        onActivated: App.preview.open(App.page.folderID)
+    }
+
+    Shortcut {
+        sequence: "Ctrl+R"
+        enabled: keys.hasFolder
+        onActivated: App.page.run()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Shift+R"
+        enabled: keys.hasFolder
+        onActivated: App.page.runAll()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+K"
+        enabled: keys.hasFolder && App.page.canRun
+        onActivated: App.cleanup.open(App.page.folderID)
+    }
+
+    Shortcut {
+        sequence: "Ctrl+T"
+        enabled: keys.hasFolder
+        onActivated: keys.detail.openTiming()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+H"
+        enabled: keys.enabled
+        onActivated: App.history.open("")
+    }
+
+    Shortcut {
+        sequence: "Ctrl+J"
+        enabled: keys.enabled
+        onActivated: App.chat.toggle()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+."
+        enabled: keys.enabled
+        onActivated: App.folders.togglePaused()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+,"
+        onActivated: App.settings.open()
+    }
+
+    Shortcut {
+        sequences: ["Alt+Return", "Alt+Enter"]
+        enabled: keys.hasFolder
+        onActivated: keys.detail.openMenu()
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Undo]
+        enabled: keys.hasFolder && !keys.editsText
+        onActivated: App.entries.undo(App.page.newestUndoable())
+    }
+
+    Shortcut {
+        sequence: "Ctrl+W"
+        onActivated: keys.Window.window.close()
+    }
+
+    Shortcut {
+        sequence: "F6"
+        enabled: keys.enabled
+        onActivated: keys.goToArea(1)
+    }
+
+    Shortcut {
+        sequence: "Shift+F6"
+        enabled: keys.enabled
+        onActivated: keys.goToArea(-1)
+    }
+
+    Shortcut {
+        sequence: "Escape"
+        enabled: keys.enabled && App.chat.isOpen
+        onActivated: App.chat.isOpen = false
+    }
+}

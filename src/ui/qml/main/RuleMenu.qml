@@ -1,0 +1,69 @@
+import QtQuick
+import QtQml.Models
+import Quillon
+
+/// What can be done with a rule.
+Menu {
+    id: menu
+
+    property Item list
+    property Item card
+    readonly property string key: card ? card.key : ""
+
+    implicitWidth: 220
+
+    function showCopies() {
+        currentIndex = 2;
+        copies.open();
+    }
+
+    MenuItem {
+        text: qsTr("Edit…")
+        iconName: "document-edit"
+        shortcutText: qsTr("Enter")
+        onTriggered: App.editor.edit(App.page.folderID, menu.key)
+    }
+
+    MenuItem {
+        text: qsTr("Duplicate")
+        iconName: "edit-copy"
+        shortcutText: "Ctrl+D"
+        onTriggered: App.page.rules.duplicate(menu.key)
+    }
+
+    CopyMenu {
+        id: copies
+        title: qsTr("Copy to")
+        iconName: "folder-open"
+        enabled: count > 0
+        key: menu.key
+    }
+
+    MenuDivider {}
+
+    MenuItem {
+        text: qsTr("Move Up")
+        iconName: "go-up"
+        shortcutText: qsTr("Alt+Up")
+        enabled: menu.card !== null && menu.card.index > 0
+        onTriggered: App.page.rules.moveBy(menu.key, -1)
+    }
+
+    MenuItem {
+        text: qsTr("Move Down")
+        iconName: "go-down"
+        shortcutText: qsTr("Alt+Down")
+        enabled: menu.card !== null && menu.card.index < menu.list.count - 1
+        onTriggered: App.page.rules.moveBy(menu.key, 1)
+    }
+
+    MenuDivider {}
+
+    MenuItem {
+        text: qsTr("Delete")
+        iconName: "user-trash"
+        shortcutText: qsTr("Del")
+        destructive: true
+        onTriggered: App.page.rules.remove(menu.key)
+    }
+}

@@ -1,0 +1,146 @@
+import QtQuick
+import Quillon
+
+/// The list of folders, and what is added to it.
+Item {
+    id: sidebar
+
+    property int radius: 0
+    property Item carried
+    /// What the window's buttons take of the first row.
+    property real startInset: 0
+    readonly property alias list: list
+
+    /// The row of the list at a place of the window's contents, -1 when there is none.
+    function rowAt(x, y) {
+        const place = list.mapFromItem(carried.parent, x, y);
+        if (place.x < 0 || place.x > list.width || place.y < 0 || place.y > list.height)
+            return -1;
+        return list.indexAt(place.x, place.y + list.contentY);
+    }
+
+    function carryRule(x, y) {
+        const row = rowAt(x, y);
+        list.ruleTarget = row === App.folders.currentIndex ? -1 : row;
+    }
+
+    function dropRule(x, y) {
+        carryRule(x, y);
+        const target = list.ruleTarget >= 0 ? list.itemAtIndex(list.ruleTarget) : null;
+        if (target)
+            App.folders.copyRule(carried.key, target.key);
+        return target !== null || rowAt(x, y) >= 0;
+    }
+
+    function ruleGone() {
+        list.ruleTarget = -1;
+    }
+
+    RoundedSide {
+        anchors.fill: parent
+        radius: sidebar.radius
+        color: Theme.sidebar
+        roundEnd: false
+    }
+
+    Divider {
+        anchors.right: parent.right
+        height: parent.height
+    }
+
+    DragArea {
+        width: parent.width
+        height: 60
+    }
+
+    Tile {
+        id: mark
+        anchors.left: parent.left
+        anchors.leftMargin: (sidebar.startInset > 0 ? Theme.s4 : 18) + sidebar.startInset
+        y: 17
+        size: 26
+        radius: Theme.rControl
+        color: Theme.accent
+        glyph: "guard"
+        iconColor: Theme.onAccent
+    }
+
+    Label {
+        anchors.left: mark.right
+        anchors.leftMargin: 9
+        anchors.verticalCenter: mark.verticalCenter
+        text: "Quillon"
+        style: Theme.heading
+        Accessible.role: Accessible.Heading
+    }
+
+    Label {
+        id: title
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.s5
+        y: 64
+        text: qsTr("Folders")
+        style: Theme.microStrong
+        color: Theme.text3
+        Accessible.role: Accessible.Heading
+    }
+
+    FolderList {
+        id: list
+        anchors.top: title.bottom
+        anchors.topMargin: 7
+        anchors.bottom: line.top
+        width: parent.width
+        ruleName: sidebar.carried.name
+    }
+
+    Divider {
+        id: line
+        anchors.bottom: footer.top
+        width: parent.width
+    }
+
+    Item {
+        id: footer
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: Theme.scaled(56)
+
+        Button {
+            anchors.left: parent.left
+            anchors.leftMargin: 10
+            anchors.verticalCenter: parent.verticalCenter
+            kind: "plain"
+            iconName: "list-add"
+            text: qsTr("Add Folder")
+            shortcutText: "Ctrl+Shift+N"
+            toolTip: qsTr("Add a folder to keep tidy")
+            onClicked: App.folders.chooseNew()
+        }
+
+        Row {
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.s4
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 6
+
+            IconButton {
+                kind: "quiet"
+                iconName: App.folders.isPaused ? "media-playback-start" : "media-playback-pause"
+                fillColor: App.folders.isPaused ? Theme.warnSoft : "transparent"
+                iconColor: App.folders.isPaused ? Theme.warn : Theme.text2
+                label: App.folders.isPaused ? qsTr("Resume") : qsTr("Pause")
+                shortcutText: "Ctrl+."
+                onClicked: App.folders.togglePaused()
+            }
+
+            IconButton {
+                kind: "quiet"
+                iconName: "configure"
+                label: qsTr("Settings")
+                shortcutText: "Ctrl+,"
+                onClicked: App.settings.open()
+            }
+        }
+    }
+}

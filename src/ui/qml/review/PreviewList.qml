@@ -1,0 +1,53 @@
+import QtQuick
+import Quillon
+
+/// The rows of the preview. One stop of the Tab key.
+ListView {
+    id: list
+
+    model: App.preview
+    clip: true
+    reuseItems: true
+    keyNavigationEnabled: false
+    highlightFollowsCurrentItem: false
+    boundsBehavior: Flickable.StopAtBounds
+    currentIndex: 0
+    cacheBuffer: 200
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("What would happen")
+
+    readonly property int page: Math.max(1, Math.floor(height / Theme.scaled(54)) - 1)
+
+    delegate: PreviewRow {
+        width: ListView.view.width
+        isLast: index === ListView.view.count - 1
+        onClicked: list.go(index, Qt.MouseFocusReason)
+    }
+
+    onActiveFocusChanged: {
+        if (activeFocus && currentItem && !currentItem.activeFocus)
+            currentItem.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function go(index, reason) {
+        if (count === 0)
+            return;
+        currentIndex = Math.max(0, Math.min(count - 1, index));
+        positionViewAtIndex(currentIndex, ListView.Contain);
+        currentItem.forceActiveFocus(reason);
+    }
+
+    Keys.onPressed: event => {
+        const target = {
+            [Qt.Key_Up]: currentIndex - 1,
+            [Qt.Key_Down]: currentIndex + 1,
+            [Qt.Key_PageUp]: currentIndex - page,
+            [Qt.Key_PageDown]: currentIndex + page,
+            [Qt.Key_Home]: 0,
+            [Qt.Key_End]: count - 1
+        }[event.key];
+        event.accepted = target !== undefined && event.modifiers === Qt.NoModifier;
+        if (event.accepted)
+            go(target, Qt.TabFocusReason);
+    }
+}

@@ -1,0 +1,196 @@
+import QtQuick
+import QtQuick.Layouts
+import Quillon
+
+/// What tidying a folder now would do, before anything is touched.
+Sheet {
+    id: sheet
+
+    title: App.preview.title
+    caption: qsTr("Nothing has been touched. This is only a preview.")
+    sheetWidth: 860
+    sheetHeight: 620
+    primary: runButton
+    tile: Component {
+        FolderTile {
+            tint: App.preview.tint
+            symbol: App.preview.symbol
+        }
+    }
+    onCloseRequested: App.sheets.close()
+    Component.onCompleted: list.forceActiveFocus(Qt.PopupFocusReason)
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        onActivated: {
+            filter.input.forceActiveFocus(Qt.ShortcutFocusReason);
+            filter.selectAll();
+        }
+    }
+
+    Item {
+        anchors.fill: parent
+
+        Segments {
+            id: fates
+            anchors.left: parent.left
+            label: qsTr("Show")
+            model: App.preview.fates
+            onActivated: index => App.preview.fate = index
+
+            Binding {
+                target: fates
+                property: "currentIndex"
+                value: App.preview.fate
+            }
+        }
+
+        Field {
+            id: filter
+            anchors.right: parent.right
+            width: 200
+            inRow: true
+            iconName: "search"
+            placeholder: qsTr("Filter files")
+            label: qsTr("Filter files")
+            onEdited: text => App.preview.filterText = text
+            Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
+        }
+
+        RowLayout {
+            id: headings
+            opacity: list.count > 0 ? 1 : 0
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: fates.bottom
+            anchors.topMargin: Theme.s3
+            spacing: 0
+
+            Label {
+                Layout.leftMargin: 58
+                Layout.preferredWidth: 236
+                text: qsTr("File")
+                style: Theme.caption
+                color: Theme.text2
+            }
+
+            Label {
+                Layout.preferredWidth: 182
+                text: qsTr("Rule")
+                style: Theme.caption
+                color: Theme.text2
+            }
+
+            Label {
+                Layout.fillWidth: true
+                text: qsTr("What happens")
+                style: Theme.caption
+                color: Theme.text2
+            }
+        }
+
+        // The card goes on beneath the footer while there is more of the list.
+        Item {
+            id: place
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: headings.bottom
+            anchors.topMargin: 7
+            anchors.bottom: parent.bottom
+            clip: true
+
+            Card {
+                width: parent.width
+                height: Math.max(Theme.scaled(54), Math.min(place.height + radius, list.contentHeight + 2))
+                visible: list.count > 0
+                elevation: 0
+            }
+
+            PreviewList {
+                id: list
+                anchors.fill: parent
+                anchors.margins: 1
+                anchors.bottomMargin: 0
+                bottomMargin: Theme.s3
+                visible: count > 0
+                focus: true
+            }
+
+            ScrollBar {
+                flickable: list
+            }
+
+            Row {
+                anchors.centerIn: parent
+                visible: App.preview.isLooking
+                spacing: Theme.s2
+
+                Spinner {
+                    anchors.verticalCenter: parent.verticalCenter
+                }
+
+                Label {
+                    text: App.preview.lookingText
+                    color: Theme.text2
+                }
+            }
+
+            EmptyState {
+                anchors.centerIn: parent
+                width: parent.width - 2 * Theme.s6
+                visible: App.preview.hasFailed
+                title: qsTr("Quillon can’t read this folder.")
+                drawing: Component {
+                    Tile {
+                        size: 44
+                        iconName: "lock"
+                    }
+                }
+
+                Button {
+                    text: qsTr("Try Again")
+                    iconName: "view-refresh"
+                    onClicked: App.preview.look()
+                }
+            }
+
+            Label {
+                anchors.centerIn: parent
+                width: Math.min(implicitWidth, parent.width - 2 * Theme.s6)
+                visible: text !== ""
+                text: App.preview.emptyText
+                style: Theme.lead
+                color: Theme.text2
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+            }
+        }
+    }
+
+    note: Label {
+        Layout.fillWidth: true
+        text: qsTr("Files that changed in the last few seconds are left to settle first.")
+        style: Theme.caption
+        color: Theme.text2
+        wrapMode: Text.Wrap
+    }
+
+    footer: [
+        Button {
+            text: qsTr("Close")
+            onClicked: sheet.closeRequested()
+        },
+        Button {
+            id: runButton
+            kind: "primary"
+            iconName: "media-playback-start"
+            text: qsTr("Run Now")
+            enabled: App.preview.canRun && App.page.canRun
+            disabledReason: App.page.canRun ? App.preview.emptyText : App.page.whyNotRun
+            onClicked: {
+                App.sheets.close();
+                App.page.run();
+            }
+        }
+    ]
+}
