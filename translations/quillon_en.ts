@@ -1368,6 +1368,14 @@
         <source>Save Rule</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Conditions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RuleList</name>

@@ -170,6 +170,7 @@ FocusScope {
                     text: sheet.title
                     style: Theme.sheetTitle
                     Accessible.role: Accessible.Heading
+                    Accessible.ignored: text === ""
                 }
 
                 Label {
