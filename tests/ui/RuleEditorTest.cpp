@@ -142,7 +142,8 @@ TEST_F(RuleEditorTest, EveryFieldOfAConditionArrives) {
         EXPECT_FALSE(shown(ConditionListModel::errorRole).toString().isEmpty());
         EXPECT_EQ(rules().at(0), before);
     }
-    conditions.setValue(row, u"2"_s);
+    // As it is typed where the thousands are grouped, and saved before the field is left.
+    conditions.setValue(row, u"2,000"_s);
     conditions.move(row, 0);
     EXPECT_TRUE(saves());
     const Rule& after = rules().at(0);
@@ -154,6 +155,7 @@ TEST_F(RuleEditorTest, EveryFieldOfAConditionArrives) {
     EXPECT_EQ(after.conditions[0].attribute, ConditionAttribute::size);
     EXPECT_EQ(after.conditions[0].op, MatchOperator::lessThan);
     EXPECT_EQ(after.conditions[0].unit, SizeUnit::gb);
+    EXPECT_EQ(after.conditions[0].value, u"2000"_s);
 }
 
 TEST_F(RuleEditorTest, AChangedDraftGoesOnlyWhenTheUserSaysSo) {
