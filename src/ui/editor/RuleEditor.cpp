@@ -77,6 +77,10 @@ RuleEditor::RuleEditor(const Surroundings& around, QObject* parent)
     around.sheets.setGuard([this](const auto& proceed) { return mayGo(proceed); });
 }
 
+RuleEditor::~RuleEditor() {
+    *session_ = false;
+}
+
 void RuleEditor::edit(const QString& folderId, const QString& ruleId) {
     const auto folderID = uuidFromText(folderId);
     const auto ruleID = uuidFromText(ruleId);
