@@ -199,8 +199,7 @@ QString FolderPage::outcomeText(const RunReport& report) {
     const std::size_t failed = report.run.entries.size() - filed;
     if (failed > 0 && filed > 0)
         return tr("Filed %1 in %2, %3 couldn’t be.", "a number of files, a folder and a number")
-            .arg(fileCount(filed), name)
-            .arg(failed);
+            .arg(fileCount(filed), name, QString::number(failed));
     if (failed > 0)
         return tr("%1 in %2 couldn’t be filed.", "a number of files").arg(fileCount(failed), name);
     if (filed > 0)
