@@ -82,6 +82,7 @@ private:
     void show(RunForecast forecast);
     void close();
     void giveUp();
+    void forget();
     void layOut();
     void setState(State state);
     [[nodiscard]] const ForecastFile& file(int row) const;
