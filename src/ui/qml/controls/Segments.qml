@@ -1,12 +1,15 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// One of two to four short choices. model: a list of words, or of objects with textRole.
+/// One of two to four short choices. model: a list of words, or of objects with textRole. What is
+/// chosen stays for the owner to say.
 Rectangle {
     id: control
 
     property var model: []
     property string textRole
+    /// How many mistakes are behind each choice, in words; empty where there are none.
+    property var errorCounts: []
     property int currentIndex: 0
     property string label
 
@@ -26,10 +29,8 @@ Rectangle {
         const kept = Math.max(0, Math.min(repeater.count - 1, index));
         if (byKey)
             repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
-        if (kept !== currentIndex) {
-            currentIndex = kept;
+        if (kept !== currentIndex)
             activated(kept);
-        }
     }
 
     Row {
@@ -50,10 +51,11 @@ Rectangle {
                 required property var modelData
                 readonly property bool chosen: index === control.currentIndex
                 readonly property int radius: Theme.rTile
+                readonly property string errorCount: control.errorCounts[index] ?? ""
 
                 text: control.textRole === "" ? modelData : modelData[control.textRole]
                 height: row.height
-                implicitWidth: Math.max(words.implicitWidth, strong.advanceWidth) + 26
+                implicitWidth: Math.max(words.implicitWidth, strong.advanceWidth) + errors.width + 26
                 focusPolicy: chosen ? Qt.StrongFocus : Qt.ClickFocus
                 hoverEnabled: true
                 onClicked: control.choose(index, false)
@@ -73,7 +75,7 @@ Rectangle {
                 }
 
                 Accessible.role: Accessible.RadioButton
-                Accessible.name: control.label === "" ? text : control.label + " " + text
+                Accessible.name: [control.label, text, errorCount].filter(Boolean).join(" ")
                 Accessible.checkable: true
                 Accessible.checked: chosen
                 Accessible.onPressAction: control.choose(index, false)
@@ -89,9 +91,23 @@ Rectangle {
                     Label {
                         id: words
                         anchors.centerIn: parent
+                        anchors.horizontalCenterOffset: (segment.mirrored ? 1 : -1) * errors.width / 2
                         text: segment.text
                         style: Theme.bodyMedium
                         color: segment.chosen || segment.hovered ? Theme.text1 : Theme.text2
+                        showsTip: false
+                        Accessible.ignored: true
+                    }
+
+                    Label {
+                        id: errors
+                        anchors.left: words.right
+                        anchors.verticalCenter: parent.verticalCenter
+                        width: text === "" ? 0 : implicitWidth
+                        leftPadding: 5
+                        text: segment.errorCount
+                        style: Theme.bodyStrong
+                        color: Theme.error
                         showsTip: false
                         Accessible.ignored: true
                     }

@@ -36,13 +36,8 @@ Sheet {
             anchors.left: parent.left
             label: qsTr("Show")
             model: App.preview.fates
+            currentIndex: App.preview.fate
             onActivated: index => App.preview.fate = index
-
-            Binding {
-                target: fates
-                property: "currentIndex"
-                value: App.preview.fate
-            }
         }
 
         Field {
