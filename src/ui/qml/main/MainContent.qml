@@ -140,7 +140,6 @@ Item {
     Loader {
         id: sheetHost
         anchors.fill: parent
-        focus: active
         active: App.sheets.current !== ""
         source: active ? sheetFiles[App.sheets.current] || "" : ""
 
