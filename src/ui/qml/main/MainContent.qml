@@ -38,16 +38,19 @@ Item {
             anchors.right: content.chatLiesOver ? parent.right : chat.left
             height: parent.height
             visible: App.page.hasFolder
+            radius: content.radius
             endMargin: content.chatIsOpen && !content.chatLiesOver ? Theme.s5 : Theme.s6
             roomForButtons: content.buttonsAtStart ? 0 : Math.max(0, windowButtons.width + Theme.s4 + 34 - endMargin - (content.chatLiesOver ? 0 : chat.width))
             carried: hand
         }
 
-        NoFolders {
-            visible: !App.page.hasFolder
+        Loader {
+            active: !App.page.hasFolder
+            focus: active
             anchors.left: sidebar.right
             anchors.right: detail.right
             height: parent.height
+            sourceComponent: NoFolders {}
         }
 
         ChatPanel {
