@@ -145,14 +145,19 @@ void FolderPage::setSymbol(const QString& name) {
 }
 
 void FolderPage::run() {
-    if (canRun())
-        startRun(folder()->id);
+    runFolder(folderID());
+}
+
+void FolderPage::runFolder(const QString& folderID) {
+    const auto id = uuidFromText(folderID);
+    if (id && around_.store.folder(*id) &&
+        around_.store.folderAccess().value(*id, FolderAccess::ok) == FolderAccess::ok)
+        startRun(*id);
 }
 
 void FolderPage::runAll() {
     for (const WatchedFolder& each : around_.store.folders())
-        if (around_.store.folderAccess().value(each.id, FolderAccess::ok) == FolderAccess::ok)
-            startRun(each.id);
+        runFolder(uuidText(each.id));
 }
 
 void FolderPage::startRun(const QUuid& folderID) {

@@ -138,6 +138,10 @@ void PreviewModel::setState(State state) {
     Q_EMIT changed();
 }
 
+QString PreviewModel::folderID() const {
+    return uuidText(folder_.id);
+}
+
 QString PreviewModel::title() const {
     return tr("What would happen in %1").arg(folder_.name());
 }
