@@ -116,8 +116,10 @@ T.ComboBox {
         contentItem: ListView {
             implicitHeight: contentHeight
             clip: true
-            model: control.delegateModel
+            // Lines that are still there when their picker goes take the process with them.
+            model: control.popup.visible ? control.delegateModel : null
             currentIndex: control.highlightedIndex
+            onModelChanged: Qt.callLater(positionViewAtIndex, control.highlightedIndex, ListView.Contain)
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: 0
         }

@@ -52,10 +52,11 @@ Rectangle {
                 readonly property bool chosen: index === control.currentIndex
                 readonly property int radius: Theme.rTile
                 readonly property string errorCount: control.errorCounts[index] ?? ""
+                readonly property real room: errorCount === "" ? 0 : Math.ceil(number.advanceWidth) + 5
 
                 text: control.textRole === "" ? modelData : modelData[control.textRole]
                 height: row.height
-                implicitWidth: Math.max(words.implicitWidth, strong.advanceWidth) + errors.width + 26
+                implicitWidth: Math.max(words.implicitWidth, strong.advanceWidth) + room + 26
                 focusPolicy: chosen ? Qt.StrongFocus : Qt.ClickFocus
                 hoverEnabled: true
                 onClicked: control.choose(index, false)
@@ -87,11 +88,17 @@ Rectangle {
                     font: words.font
                 }
 
+                TextMetrics {
+                    id: number
+                    text: segment.errorCount
+                    font: errors.font
+                }
+
                 contentItem: Item {
                     Label {
                         id: words
                         anchors.centerIn: parent
-                        anchors.horizontalCenterOffset: (segment.mirrored ? 1 : -1) * errors.width / 2
+                        anchors.horizontalCenterOffset: (segment.mirrored ? 1 : -1) * segment.room / 2
                         text: segment.text
                         style: Theme.bodyMedium
                         color: segment.chosen || segment.hovered ? Theme.text1 : Theme.text2
@@ -102,9 +109,8 @@ Rectangle {
                     Label {
                         id: errors
                         anchors.left: words.right
+                        anchors.leftMargin: 5
                         anchors.verticalCenter: parent.verticalCenter
-                        width: text === "" ? 0 : implicitWidth
-                        leftPadding: 5
                         text: segment.errorCount
                         style: Theme.bodyStrong
                         color: Theme.error
