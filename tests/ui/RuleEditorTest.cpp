@@ -98,6 +98,10 @@ TEST_F(RuleEditorTest, EveryFieldOfEveryActionArrives) {
         EXPECT_EQ(actions.add(int(type)), int(type));
     actions.setDestination(0, bench.path("Papers"));
     editor.chooseFolder(1);
+    // Kept as text, this one would be another.
+    desktop.choice = "/srv/Caf\xe9";
+    editor.chooseFolder(1);
+    EXPECT_FALSE(toasts.sentence().isEmpty());
     actions.setPattern(2, u"{date} {name}"_s);
     actions.setTag(4, u"gray"_s);
     actions.setTag(5, u"teal"_s); // there is none
