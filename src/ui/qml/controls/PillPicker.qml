@@ -106,6 +106,13 @@ T.ComboBox {
         picker: control
     }
 
+    Connections {
+        target: Qt.application
+        function onAboutToQuit() {
+            control.popup.close();
+        }
+    }
+
     popup: T.Popup {
         y: control.height + 4
         width: Math.max(control.width, control.widest + 60 + (control.iconRole !== "" && control.iconRoom === 0 ? 26 : 0))
