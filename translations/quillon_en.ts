@@ -54,6 +54,10 @@
         <source>Undo %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Enter</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AddActionButton</name>
@@ -178,6 +182,10 @@
     <name>ChatTurn</name>
     <message>
         <source>Try Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dobbin Settings…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -731,6 +739,13 @@
     </message>
 </context>
 <context>
+    <name>FolderNames</name>
+    <message>
+        <source>The name of this folder isn’t valid UTF-8, so Quillon can’t use it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FolderStyles</name>
     <message>
         <source>Folder</source>
@@ -896,6 +911,10 @@
     </message>
     <message>
         <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1366,6 +1385,14 @@
     </message>
     <message>
         <source>Save Rule</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actions</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2311,15 +2338,6 @@
     <name>quillon::HistoryModel</name>
     <message>
         <source>All folders</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Errors</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Errors %1</source>
-        <comment>followed by their number</comment>
         <translation type="unfinished"></translation>
     </message>
 </context>

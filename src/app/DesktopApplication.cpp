@@ -61,6 +61,7 @@ QString portalParent() {
 /// Until the user has read it, or the process is asked to end.
 int showSentence(const QString& sentence, Services& services) {
     QMessageBox box(QMessageBox::Warning, u"Quillon"_s, sentence, QMessageBox::Close);
+    box.setTextFormat(Qt::PlainText); // it may name a path
     services.setStopHandler([&box] { box.reject(); });
     box.exec();
     services.setStopHandler({});

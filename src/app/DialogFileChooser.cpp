@@ -3,7 +3,7 @@
 namespace quillon {
 namespace {
 
-void open(QFileDialog& dialog, const std::string& start, FileChooser::Chosen chosen) {
+void open(QFileDialog& dialog, const std::string& start, const FileChooser::Chosen& chosen) {
     dialog.setAttribute(Qt::WA_DeleteOnClose);
     if (!start.empty())
         dialog.setDirectory(QString::fromStdString(start));
@@ -23,13 +23,13 @@ void DialogFileChooser::chooseFolder(const QString& title, const std::string& st
     auto* const dialog = new QFileDialog(nullptr, title);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    open(*dialog, start, std::move(chosen));
+    open(*dialog, start, chosen);
 }
 
 void DialogFileChooser::chooseFile(const QString& title, const std::string& start, Chosen chosen) {
     auto* const dialog = new QFileDialog(nullptr, title);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    open(*dialog, start, std::move(chosen));
+    open(*dialog, start, chosen);
 }
 
 void DialogFileChooser::chooseNewFile(const QString& title, const QString& suggestedName,
@@ -37,7 +37,7 @@ void DialogFileChooser::chooseNewFile(const QString& title, const QString& sugge
     auto* const dialog = new QFileDialog(nullptr, title);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->selectFile(suggestedName);
-    open(*dialog, {}, std::move(chosen));
+    open(*dialog, {}, chosen);
 }
 
 } // namespace quillon

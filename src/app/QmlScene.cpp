@@ -5,6 +5,8 @@
 #include <QQmlComponent>
 #include <QQmlContext>
 
+#include <tuple>
+
 namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
@@ -32,7 +34,7 @@ std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& type
     auto* const window = qobject_cast<QQuickWindow*>(made.get());
     if (!window)
         qFatal("%s is no window", qUtf8Printable(type));
-    made.release();
+    std::ignore = made.release();
     return std::unique_ptr<QQuickWindow>(window);
 }
 

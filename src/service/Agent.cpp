@@ -30,7 +30,7 @@ struct End {
 class Agent {
 public:
     Agent(const Console& console, Services& services)
-        : console_(console), services_(services), log_(console.err, services.platform().clock) {}
+        : services_(services), log_(console.err, services.platform().clock) {}
 
     ~Agent() {
         if (instance_)
@@ -114,7 +114,6 @@ private:
         });
     }
 
-    const Console& console_;
     Services& services_;
     AgentLog log_;
     std::unique_ptr<Instance> instance_;

@@ -96,12 +96,12 @@ TEST_F(ControlsTest, AreWorkedByTheKeyboard) {
          {Qt::Key_Space, Qt::Key_Space},
          {u"2"_s, u"0"_s}},
         {"segments, which end",
-         "Segments { model: ['a', 'b', 'c']; onActivated: index => hear(index);"
-         "Component.onCompleted: choose(1, true) }",
+         "Segments { model: ['a', 'b', 'c']; onActivated: index => { currentIndex = index;"
+         "hear(index) } Component.onCompleted: choose(1, true) }",
          {Qt::Key_Right, Qt::Key_Right, Qt::Key_Home},
          {u"1"_s, u"2"_s, u"0"_s}},
         {"dots, which go round",
-         "TagDots { current: 'purple'; onChosen: word => hear(word);"
+         "TagDots { current: 'purple'; onChosen: word => { current = word; hear(word) }"
          "Component.onCompleted: choose(5, true) }",
          {Qt::Key_Right, Qt::Key_Right},
          {u"gray"_s, u"red"_s}},

@@ -75,6 +75,13 @@ TEST_F(FolderPageTest, TellsWhatCameOfARunByHandAndSpinsOnlyWhenItIsSlow) {
     page.run();
     bench.background.finish();
     EXPECT_EQ(toasts.sentence(), u"in is already tidy."_s);
+    // What was looked at is tidied, whatever is selected by then.
+    bench.store->setSelectedFolderID(bench.addFolder("other"));
+    write("c.txt");
+    page.runFolder(uuidText(folder));
+    bench.background.finish();
+    EXPECT_EQ(toasts.sentence(), u"Filed 1 file in in."_s);
+    bench.store->setSelectedFolderID(folder);
 
     bench.disk.machine.write("in the way", "x");
     bench.addRule(bench.mover(u"pdf"_s, "in the way"), folder);

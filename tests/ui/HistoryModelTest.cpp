@@ -162,10 +162,10 @@ TEST_F(HistoryModelTest, FindsEntriesByWhatTheyTell) {
     }
     model->openErrors(uuidText(folder));
     EXPECT_EQ(titles(), QStringList{u"Scan.pdf"_s});
-    EXPECT_EQ(model->errorsLabel(), u"Errors 1"_s);
+    EXPECT_EQ(model->errorCount(), u"1"_s);
     model->setFolderIndex(2);
     EXPECT_EQ(titles(), QStringList());
-    EXPECT_EQ(model->errorsLabel(), u"Errors"_s);
+    EXPECT_EQ(model->errorCount(), QString());
     model->clearFilter();
     EXPECT_EQ(titles().size(), 3);
 }

@@ -98,6 +98,10 @@ TEST_F(RuleEditorTest, EveryFieldOfEveryActionArrives) {
         EXPECT_EQ(actions.add(int(type)), int(type));
     actions.setDestination(0, bench.path("Papers"));
     editor.chooseFolder(1);
+    // Kept as text, this one would be another.
+    desktop.choice = "/srv/Caf\xe9";
+    editor.chooseFolder(1);
+    EXPECT_FALSE(toasts.sentence().isEmpty());
     actions.setPattern(2, u"{date} {name}"_s);
     actions.setTag(4, u"gray"_s);
     actions.setTag(5, u"teal"_s); // there is none
@@ -142,7 +146,8 @@ TEST_F(RuleEditorTest, EveryFieldOfAConditionArrives) {
         EXPECT_FALSE(shown(ConditionListModel::errorRole).toString().isEmpty());
         EXPECT_EQ(rules().at(0), before);
     }
-    conditions.setValue(row, u"2"_s);
+    // As it is typed where the thousands are grouped, and saved before the field is left.
+    conditions.setValue(row, u"2,000"_s);
     conditions.move(row, 0);
     EXPECT_TRUE(saves());
     const Rule& after = rules().at(0);
@@ -154,6 +159,7 @@ TEST_F(RuleEditorTest, EveryFieldOfAConditionArrives) {
     EXPECT_EQ(after.conditions[0].attribute, ConditionAttribute::size);
     EXPECT_EQ(after.conditions[0].op, MatchOperator::lessThan);
     EXPECT_EQ(after.conditions[0].unit, SizeUnit::gb);
+    EXPECT_EQ(after.conditions[0].value, u"2000"_s);
 }
 
 TEST_F(RuleEditorTest, AChangedDraftGoesOnlyWhenTheUserSaysSo) {

@@ -6,6 +6,8 @@ namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
 
+// The bus wants back the very argument that it gave.
+// NOLINTBEGIN(bugprone-return-const-ref-from-parameter)
 QDBusArgument& operator<<(QDBusArgument& argument, const BusMenuEntry& entry) {
     argument.beginStructure();
     argument << entry.id << entry.properties;
@@ -58,6 +60,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, BusMenuEvent& eve
     argument.endStructure();
     return argument;
 }
+// NOLINTEND(bugprone-return-const-ref-from-parameter)
 
 void MenuObject::registerTypes() {
     qDBusRegisterMetaType<BusMenuEvent>();

@@ -46,7 +46,7 @@ void PortalFileChooser::chooseNewFile(const QString& title, const QString& sugge
 }
 
 void PortalFileChooser::ask(const QString& method, const QString& title, const QVariantMap& options,
-                            Chosen chosen, std::function<void()> otherwise) {
+                            const Chosen& chosen, const std::function<void()>& otherwise) {
     bus_.whenConnected([=, this](std::optional<QDBusConnection> connection) {
         if (!connection)
             return otherwise();

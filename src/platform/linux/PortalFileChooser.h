@@ -21,8 +21,8 @@ public:
     void chooseNewFile(const QString& title, const QString& suggestedName, Chosen chosen) override;
 
 private:
-    void ask(const QString& method, const QString& title, const QVariantMap& options, Chosen chosen,
-             std::function<void()> otherwise);
+    void ask(const QString& method, const QString& title, const QVariantMap& options,
+             const Chosen& chosen, const std::function<void()>& otherwise);
 
     DesktopBus& bus_;
     FileChooser& fallback_;

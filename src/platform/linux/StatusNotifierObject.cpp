@@ -6,6 +6,8 @@ namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
 
+// The bus wants back the very argument that it gave.
+// NOLINTBEGIN(bugprone-return-const-ref-from-parameter)
 QDBusArgument& operator<<(QDBusArgument& argument, const BusPicture& picture) {
     argument.beginStructure();
     argument << picture.width << picture.height << picture.pixels;
@@ -33,6 +35,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, BusToolTip& toolT
     argument.endStructure();
     return argument;
 }
+// NOLINTEND(bugprone-return-const-ref-from-parameter)
 
 void StatusNotifierObject::registerTypes() {
     qDBusRegisterMetaType<BusPicture>();

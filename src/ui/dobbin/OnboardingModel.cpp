@@ -4,6 +4,7 @@
 #include "store/SettingsTable.h"
 #include "ui/CountTexts.h"
 #include "ui/FolderLook.h"
+#include "ui/FolderNames.h"
 #include "ui/editor/FolderChoices.h"
 
 #include <QPointer>
@@ -161,7 +162,8 @@ void OnboardingModel::setTicked(const QString& path, bool ticked) {
 void OnboardingModel::chooseFolder() {
     around_.fileChooser.chooseFolder(tr("Choose a folder to keep tidy"), around_.home,
                                      [alive = QPointer(this)](const auto& chosen) {
-                                         if (alive && chosen)
+                                         if (alive && chosen &&
+                                             canBeKept(*chosen, alive->around_.toasts))
                                              alive->lookAt({{*chosen, u"folder"_s}}, true);
                                      });
 }

@@ -52,6 +52,9 @@ void ConditionListModel::setMatchMode(MatchMode mode) {
 }
 
 int ConditionListModel::check() {
+    // What is saved from the keyboard may still be as it was typed.
+    for (int row = 0; row < count(); ++row)
+        finishValue(row);
     isChecked_ = true;
     rowsMoved();
     const auto wrong = std::ranges::find_if(

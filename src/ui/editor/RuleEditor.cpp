@@ -8,6 +8,7 @@
 #include "model/Uuid.h"
 #include "platform/FileNames.h"
 #include "store/RuleEdits.h"
+#include "ui/FolderNames.h"
 #include "ui/editor/EditedRows.h"
 #include "ui/editor/Shortcuts.h"
 
@@ -75,6 +76,10 @@ RuleEditor::RuleEditor(const Surroundings& around, QObject* parent)
             forget();
     });
     around.sheets.setGuard([this](const auto& proceed) { return mayGo(proceed); });
+}
+
+RuleEditor::~RuleEditor() {
+    *session_ = false;
 }
 
 void RuleEditor::edit(const QString& folderId, const QString& ruleId) {
@@ -288,7 +293,7 @@ void RuleEditor::chooseFolder(int actionRow) {
                                              : choices_.look(folderID_).value(u"path"_s).toString();
     const auto chosen = [this, session = session_,
                          id = action.id](std::optional<std::string> path) {
-        if (!*session || !path)
+        if (!*session || !path || !canBeKept(*path, around_.toasts))
             return;
         const auto& now = actions_.actions();
         const auto found = std::ranges::find(now, id, &RuleAction::id);

@@ -62,6 +62,7 @@ public:
     };
 
     explicit RuleEditor(const Surroundings& around, QObject* parent = nullptr);
+    ~RuleEditor() override;
 
     // Each opens the sheet, once a draft that is open and was changed may go.
 

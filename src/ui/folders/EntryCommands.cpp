@@ -62,14 +62,23 @@ void EntryCommands::undo(const QString& entryID) {
         return;
     const QUuid id = entry->id;
     undoing_.insert(id);
+    Q_EMIT undoingChanged();
     around_.store.undo({id}, [self = QPointer(this), id](const AppStore::UndoReport& report) {
         if (self)
             self->undone(id, report);
     });
 }
 
+QStringList EntryCommands::undoing() const {
+    QStringList keys;
+    for (const QUuid& id : undoing_)
+        keys.append(uuidText(id));
+    return keys;
+}
+
 void EntryCommands::undone(const QUuid& entryID, const AppStore::UndoReport& report) {
     undoing_.remove(entryID);
+    Q_EMIT undoingChanged();
     if (report.unsaved)
         return around_.toasts.show(report.unsaved->message);
     if (report.outcomes.empty())

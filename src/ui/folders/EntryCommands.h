@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QSet>
+#include <QStringList>
 
 namespace quillon {
 
@@ -15,6 +16,8 @@ namespace quillon {
 /// their ids.
 class EntryCommands final : public QObject {
     Q_OBJECT
+    /// The entries that are being undone.
+    Q_PROPERTY(QStringList undoing READ undoing NOTIFY undoingChanged)
 
 public:
     /// All borrowed for the object's life.
@@ -32,8 +35,10 @@ public:
     Q_INVOKABLE void reveal(const QString& entryID);
     /// Puts the file back, and tells what came of it.
     Q_INVOKABLE void undo(const QString& entryID);
-    /// Whether it is being undone.
-    [[nodiscard]] bool isUndoing(const QUuid& entryID) const { return undoing_.contains(entryID); }
+    [[nodiscard]] QStringList undoing() const;
+
+Q_SIGNALS:
+    void undoingChanged();
 
 private:
     [[nodiscard]] const LogEntry* find(const QString& entryID) const;

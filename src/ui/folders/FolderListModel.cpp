@@ -3,6 +3,7 @@
 #include "model/Uuid.h"
 #include "ui/CountTexts.h"
 #include "ui/FolderLook.h"
+#include "ui/FolderNames.h"
 #include "ui/editor/EditedRows.h"
 #include "ui/editor/FolderChoices.h"
 #include "ui/folders/FolderStyles.h"
@@ -61,11 +62,11 @@ void FolderListModel::togglePaused() {
 }
 
 void FolderListModel::chooseNew() {
-    around_.fileChooser.chooseFolder(tr("Choose a folder to keep tidy"), {},
-                                     [self = QPointer(this)](const auto& chosen) {
-                                         if (self && chosen)
-                                             self->add({*chosen}, -1);
-                                     });
+    around_.fileChooser.chooseFolder(
+        tr("Choose a folder to keep tidy"), {}, [self = QPointer(this)](const auto& chosen) {
+            if (self && chosen && canBeKept(*chosen, self->around_.toasts))
+                self->add({*chosen}, -1);
+        });
 }
 
 bool FolderListModel::mayTake(const QList<QUrl>& dropped) const {
@@ -162,19 +163,19 @@ void FolderListModel::locate(const QString& key) {
     const WatchedFolder* const folder = id ? around_.store.folder(*id) : nullptr;
     if (!folder)
         return;
-    around_.fileChooser.chooseFolder(tr("Where is %1 now?").arg(folder->name()), {},
-                                     [self = QPointer(this), id = *id](const auto& chosen) {
-                                         if (!self || !chosen)
-                                             return;
-                                         AppStore& store = self->around_.store;
-                                         const QString path = QString::fromStdString(*chosen);
-                                         const WatchedFolder* const other = store.folderAt(path);
-                                         if (other && other->id != id)
-                                             self->around_.toasts.show(
-                                                 tr("%1 is watched already").arg(other->name()));
-                                         else
-                                             store.relocateFolder(path, id);
-                                     });
+    around_.fileChooser.chooseFolder(
+        tr("Where is %1 now?").arg(folder->name()), {},
+        [self = QPointer(this), id = *id](const auto& chosen) {
+            if (!self || !chosen || !canBeKept(*chosen, self->around_.toasts))
+                return;
+            AppStore& store = self->around_.store;
+            const QString path = QString::fromStdString(*chosen);
+            const WatchedFolder* const other = store.folderAt(path);
+            if (other && other->id != id)
+                self->around_.toasts.show(tr("%1 is watched already").arg(other->name()));
+            else
+                store.relocateFolder(path, id);
+        });
 }
 
 void FolderListModel::copyRule(const QString& ruleID, const QString& key) {

@@ -145,14 +145,19 @@ void FolderPage::setSymbol(const QString& name) {
 }
 
 void FolderPage::run() {
-    if (canRun())
-        startRun(folder()->id);
+    runFolder(folderID());
+}
+
+void FolderPage::runFolder(const QString& folderID) {
+    const auto id = uuidFromText(folderID);
+    if (id && around_.store.folder(*id) &&
+        around_.store.folderAccess().value(*id, FolderAccess::ok) == FolderAccess::ok)
+        startRun(*id);
 }
 
 void FolderPage::runAll() {
     for (const WatchedFolder& each : around_.store.folders())
-        if (around_.store.folderAccess().value(each.id, FolderAccess::ok) == FolderAccess::ok)
-            startRun(each.id);
+        runFolder(uuidText(each.id));
 }
 
 void FolderPage::startRun(const QUuid& folderID) {
@@ -199,8 +204,7 @@ QString FolderPage::outcomeText(const RunReport& report) {
     const std::size_t failed = report.run.entries.size() - filed;
     if (failed > 0 && filed > 0)
         return tr("Filed %1 in %2, %3 couldn’t be.", "a number of files, a folder and a number")
-            .arg(fileCount(filed), name)
-            .arg(failed);
+            .arg(fileCount(filed), name, QString::number(failed));
     if (failed > 0)
         return tr("%1 in %2 couldn’t be filed.", "a number of files").arg(fileCount(failed), name);
     if (filed > 0)

@@ -95,6 +95,8 @@ public:
 
     /// Tidies this folder now, and tells what came of it.
     Q_INVOKABLE void run();
+    /// The same for a folder that need not be the selected one.
+    Q_INVOKABLE void runFolder(const QString& folderID);
     Q_INVOKABLE void runAll();
     Q_INVOKABLE void importRules();
     Q_INVOKABLE void exportRules();

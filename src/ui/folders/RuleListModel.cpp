@@ -7,6 +7,7 @@
 #include "ui/editor/EditedRows.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -65,12 +66,13 @@ void RuleListModel::remove(const QString& key) {
     const auto found = std::ranges::find(folder->rules, idOf(key), &Rule::id);
     if (found == folder->rules.end())
         return;
-    const Rule rule = *found;
+    Rule rule = *found;
     const auto next = found + 1;
     const QUuid before = next == folder->rules.end() ? QUuid() : next->id;
     store_.deleteRule(rule.id, folderID_);
-    toasts_.show(tr("“%1” deleted").arg(rule.name), tr("Undo"),
-                 [&store = store_, rule, folderID = folderID_, before] {
+    const QString sentence = tr("“%1” deleted").arg(rule.name);
+    toasts_.show(sentence, tr("Undo"),
+                 [&store = store_, rule = std::move(rule), folderID = folderID_, before] {
                      store.saveRule(rule, folderID);
                      if (!before.isNull())
                          store.moveRuleBefore(before, rule.id, folderID);

@@ -94,9 +94,8 @@ void HistoryModel::setFilter(HistoryFilter filter) {
     Q_EMIT filterChanged();
 }
 
-QString HistoryModel::errorsLabel() const {
-    return errorCount_ == 0 ? tr("Errors")
-                            : tr("Errors %1", "followed by their number").arg(errorCount_);
+QString HistoryModel::errorCount() const {
+    return errorCount_ == 0 ? QString() : QString::number(errorCount_);
 }
 
 int HistoryModel::indexOf(const QString& key) const {

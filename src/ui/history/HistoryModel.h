@@ -23,7 +23,7 @@ class HistoryModel final : public KeyedRows<HistoryRow> {
     Q_PROPERTY(QStringList folderNames READ folderNames NOTIFY changed)
     Q_PROPERTY(int folderIndex READ folderIndex WRITE setFolderIndex NOTIFY changed)
     Q_PROPERTY(int outcome READ outcome WRITE setOutcome NOTIFY filterChanged)
-    Q_PROPERTY(QString errorsLabel READ errorsLabel NOTIFY changed)
+    Q_PROPERTY(QString errorCount READ errorCount NOTIFY changed)
     Q_PROPERTY(QVariantMap days READ days NOTIFY changed)
     Q_PROPERTY(bool isLogEmpty READ isLogEmpty NOTIFY changed)
 
@@ -57,7 +57,8 @@ public:
     Q_INVOKABLE void clearFilter();
 
     /// "Errors", with how many there are.
-    [[nodiscard]] QString errorsLabel() const;
+    /// How many errors there are; empty for none.
+    [[nodiscard]] QString errorCount() const;
     /// The heading and the count of each day, by the rows' `day`.
     [[nodiscard]] const QVariantMap& days() const { return days_; }
     [[nodiscard]] bool isLogEmpty() const { return around_.store.recentLogs().empty(); }

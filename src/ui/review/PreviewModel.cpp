@@ -67,6 +67,7 @@ void PreviewModel::open(const QString& folderId) {
 
 void PreviewModel::look() {
     giveUp();
+    forget();
     if (const WatchedFolder* const folder = around_.store.folder(folder_.id))
         folder_ = *folder;
     struct Seen {
@@ -108,6 +109,14 @@ void PreviewModel::show(RunForecast forecast) {
 void PreviewModel::close() {
     giveUp();
     state_ = State::closed;
+    forget();
+    Q_EMIT changed();
+}
+
+/// What was foretold counts its rules as the folder had them then.
+void PreviewModel::forget() {
+    if (forecast_.files.empty())
+        return;
     beginResetModel();
     rows_.clear();
     endResetModel();
@@ -115,7 +124,6 @@ void PreviewModel::close() {
     around_.background.start([old = std::make_shared<RunForecast>(
                                   std::exchange(forecast_, {}))]() mutable { old.reset(); },
                              [] {});
-    Q_EMIT changed();
 }
 
 void PreviewModel::giveUp() {
@@ -128,6 +136,10 @@ void PreviewModel::giveUp() {
 void PreviewModel::setState(State state) {
     state_ = state;
     Q_EMIT changed();
+}
+
+QString PreviewModel::folderID() const {
+    return uuidText(folder_.id);
 }
 
 QString PreviewModel::title() const {

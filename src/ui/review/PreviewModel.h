@@ -18,6 +18,7 @@ namespace quillon {
 /// rule or actions hold the words of the filter. Holds them while its sheet is open.
 class PreviewModel final : public QAbstractListModel {
     Q_OBJECT
+    Q_PROPERTY(QString folderID READ folderID NOTIFY opened)
     Q_PROPERTY(QString title READ title NOTIFY opened)
     Q_PROPERTY(int tint READ tint NOTIFY opened)
     Q_PROPERTY(QString symbol READ symbol NOTIFY opened)
@@ -50,6 +51,7 @@ public:
     /// Looks once more.
     Q_INVOKABLE void look();
 
+    [[nodiscard]] QString folderID() const;
     [[nodiscard]] QString title() const;
     [[nodiscard]] int tint() const { return tint_; }
     [[nodiscard]] QString symbol() const { return symbol_; }
@@ -82,6 +84,7 @@ private:
     void show(RunForecast forecast);
     void close();
     void giveUp();
+    void forget();
     void layOut();
     void setState(State state);
     [[nodiscard]] const ForecastFile& file(int row) const;

@@ -6,6 +6,8 @@ T.Menu {
     id: menu
 
     property string iconName
+    /// What had the focus before, and gets it back unless an item gave it away.
+    property Item opener
 
     implicitWidth: Math.max(200, contentWidthOfItems + leftPadding + rightPadding)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
@@ -22,6 +24,21 @@ T.Menu {
     }
 
     delegate: MenuItem {}
+
+    onAboutToShow: opener = parent ? parent.Window.activeFocusItem : null
+    onClosed: {
+        if (opener && opener.visible && isLeftBy(opener))
+            opener.forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    /// Whether the focus fell back to what that item lies in.
+    function isLeftBy(item) {
+        const now = item.Window.activeFocusItem;
+        let around = item.parent;
+        while (now && around && around !== now)
+            around = around.parent;
+        return !now || around === now;
+    }
 
     contentItem: ListView {
         implicitHeight: contentHeight

@@ -106,6 +106,13 @@ T.ComboBox {
         picker: control
     }
 
+    Connections {
+        target: Qt.application
+        function onAboutToQuit() {
+            control.popup.close();
+        }
+    }
+
     popup: T.Popup {
         y: control.height + 4
         width: Math.max(control.width, control.widest + 60 + (control.iconRole !== "" && control.iconRoom === 0 ? 26 : 0))
@@ -116,8 +123,10 @@ T.ComboBox {
         contentItem: ListView {
             implicitHeight: contentHeight
             clip: true
-            model: control.delegateModel
+            // Lines that are still there when their picker goes take the process with them.
+            model: control.popup.visible ? control.delegateModel : null
             currentIndex: control.highlightedIndex
+            onModelChanged: Qt.callLater(positionViewAtIndex, control.highlightedIndex, ListView.Contain)
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: 0
         }

@@ -1,12 +1,15 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// One of two to four short choices. model: a list of words, or of objects with textRole.
+/// One of two to four short choices. model: a list of words, or of objects with textRole. What is
+/// chosen stays for the owner to say.
 Rectangle {
     id: control
 
     property var model: []
     property string textRole
+    /// How many mistakes are behind each choice, in words; empty where there are none.
+    property var errorCounts: []
     property int currentIndex: 0
     property string label
 
@@ -26,10 +29,8 @@ Rectangle {
         const kept = Math.max(0, Math.min(repeater.count - 1, index));
         if (byKey)
             repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
-        if (kept !== currentIndex) {
-            currentIndex = kept;
+        if (kept !== currentIndex)
             activated(kept);
-        }
     }
 
     Row {
@@ -50,10 +51,12 @@ Rectangle {
                 required property var modelData
                 readonly property bool chosen: index === control.currentIndex
                 readonly property int radius: Theme.rTile
+                readonly property string errorCount: control.errorCounts[index] ?? ""
+                readonly property real room: errorCount === "" ? 0 : Math.ceil(number.advanceWidth) + 5
 
                 text: control.textRole === "" ? modelData : modelData[control.textRole]
                 height: row.height
-                implicitWidth: Math.max(words.implicitWidth, strong.advanceWidth) + 26
+                implicitWidth: Math.max(words.implicitWidth, strong.advanceWidth) + room + 26
                 focusPolicy: chosen ? Qt.StrongFocus : Qt.ClickFocus
                 hoverEnabled: true
                 onClicked: control.choose(index, false)
@@ -73,7 +76,7 @@ Rectangle {
                 }
 
                 Accessible.role: Accessible.RadioButton
-                Accessible.name: control.label === "" ? text : control.label + " " + text
+                Accessible.name: [control.label, text, errorCount].filter(Boolean).join(" ")
                 Accessible.checkable: true
                 Accessible.checked: chosen
                 Accessible.onPressAction: control.choose(index, false)
@@ -85,13 +88,32 @@ Rectangle {
                     font: words.font
                 }
 
+                TextMetrics {
+                    id: number
+                    text: segment.errorCount
+                    font: errors.font
+                }
+
                 contentItem: Item {
                     Label {
                         id: words
                         anchors.centerIn: parent
+                        anchors.horizontalCenterOffset: (segment.mirrored ? 1 : -1) * segment.room / 2
                         text: segment.text
                         style: Theme.bodyMedium
                         color: segment.chosen || segment.hovered ? Theme.text1 : Theme.text2
+                        showsTip: false
+                        Accessible.ignored: true
+                    }
+
+                    Label {
+                        id: errors
+                        anchors.left: words.right
+                        anchors.leftMargin: 5
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: segment.errorCount
+                        style: Theme.bodyStrong
+                        color: Theme.error
                         showsTip: false
                         Accessible.ignored: true
                     }

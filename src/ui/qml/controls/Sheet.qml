@@ -66,7 +66,8 @@ FocusScope {
     Component.onCompleted: {
         shownIn = Window.window;
         const last = sheetOf(Window.activeFocusItem);
-        opener = last ? last.opener : Window.activeFocusItem;
+        const focused = Window.activeFocusItem;
+        opener = last ? last.opener : focused && focused.menu ? focused.menu.opener : focused;
         if (!activeFocus)
             forceActiveFocus(Qt.PopupFocusReason);
         entrance.start();
@@ -170,6 +171,7 @@ FocusScope {
                     text: sheet.title
                     style: Theme.sheetTitle
                     Accessible.role: Accessible.Heading
+                    Accessible.ignored: text === ""
                 }
 
                 Label {

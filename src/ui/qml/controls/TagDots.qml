@@ -22,10 +22,8 @@ Row {
         const kept = (index + words.length) % words.length;
         if (byKey)
             repeater.itemAt(kept).forceActiveFocus(Qt.TabFocusReason);
-        if (kept !== currentIndex) {
-            current = words[kept];
+        if (kept !== currentIndex)
             chosen(words[kept]);
-        }
     }
 
     Repeater {

@@ -74,13 +74,26 @@ T.ItemDelegate {
             Accessible.ignored: true
         }
 
-        Button {
+        Flow {
             visible: turn.isError
-            text: qsTr("Try Again")
-            iconName: "view-refresh"
-            small: true
-            focusPolicy: turn.reach
-            onClicked: App.chat.askAgain(turn.key)
+            width: parent.width
+            spacing: Theme.s2
+
+            Button {
+                text: qsTr("Try Again")
+                iconName: "view-refresh"
+                small: true
+                focusPolicy: turn.reach
+                onClicked: App.chat.askAgain(turn.key)
+            }
+
+            Button {
+                text: qsTr("Dobbin Settings…")
+                kind: "quiet"
+                small: true
+                focusPolicy: turn.reach
+                onClicked: App.settings.open("dobbin")
+            }
         }
 
         Repeater {

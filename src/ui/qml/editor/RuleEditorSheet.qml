@@ -203,6 +203,7 @@ Sheet {
             id: conditions
             width: parent.width
             rows: sheet.editor.conditions
+            Accessible.name: qsTr("Conditions")
             whenEmpty: addCondition
 
             delegate: ConditionRow {
@@ -254,6 +255,7 @@ Sheet {
             id: actions
             width: parent.width
             rows: sheet.editor.actions
+            Accessible.name: qsTr("Actions")
             whenEmpty: addAction
 
             delegate: ActionRow {

@@ -48,9 +48,44 @@ T.ItemDelegate {
     Keys.onReturnPressed: askToReveal()
     Keys.onEnterPressed: askToReveal()
     Keys.onPressed: event => {
-        if (event.matches(StandardKey.Undo)) {
+        const isMenu = event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
+        event.accepted = isMenu || event.matches(StandardKey.Undo);
+        if (isMenu)
+            menu.open(name.x, height);
+        else if (event.accepted)
             askToUndo();
-            event.accepted = true;
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => menu.open(eventPoint.position.x, eventPoint.position.y)
+    }
+
+    // Made when it is first asked for, and not for each of many rows.
+    Loader {
+        id: menu
+        active: false
+        sourceComponent: Menu {
+            MenuItem {
+                text: qsTr("Reveal")
+                iconName: "document-open-folder"
+                shortcutText: qsTr("Enter")
+                enabled: row.canReveal
+                onTriggered: row.askToReveal()
+            }
+
+            MenuItem {
+                text: qsTr("Undo")
+                iconName: "edit-undo"
+                shortcutText: "Ctrl+Z"
+                enabled: row.canUndo && !row.undoing
+                onTriggered: row.askToUndo()
+            }
+        }
+
+        function open(x, y) {
+            active = true;
+            item.popup(row, x, y);
         }
     }
 

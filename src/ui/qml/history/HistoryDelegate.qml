@@ -91,7 +91,7 @@ FocusScope {
         folderColor: delegate.tint < 0 ? Theme.text3 : Theme.tint(delegate.tint)
         canReveal: delegate.canReveal
         canUndo: delegate.canUndo
-        undoing: delegate.isUndoing
+        undoing: delegate.isUndoing || App.entries.undoing.includes(delegate.entryId)
         isError: delegate.isError
         onRevealAsked: App.entries.reveal(delegate.entryId)
         onUndoAsked: App.entries.undo(delegate.entryId)

@@ -75,9 +75,9 @@ Sheet {
             }
 
             Segments {
-                id: outcomes
                 label: qsTr("Show")
-                model: [qsTr("Everything"), qsTr("Changes"), App.history.errorsLabel]
+                model: [qsTr("Everything"), qsTr("Changes"), qsTr("Errors")]
+                errorCounts: ["", "", App.history.errorCount]
                 currentIndex: App.history.outcome
                 onActivated: index => App.history.outcome = index
             }
@@ -125,15 +125,6 @@ Sheet {
                     list.forceActiveFocus(Qt.TabFocusReason);
                 }
             }
-        }
-    }
-
-    // A segment that was chosen by hand has forgotten that it follows the model.
-    Connections {
-        target: App.history
-        function onFilterChanged() {
-            outcomes.currentIndex = App.history.outcome;
-            search.text = App.history.searchText;
         }
     }
 

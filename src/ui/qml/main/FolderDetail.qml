@@ -10,6 +10,8 @@ Item {
     property int endMargin: Theme.s6
     /// Kept free at the end of the first row.
     property real roomForButtons: 0
+    /// Of the window's corners.
+    property int radius: 0
     property Item carried
     readonly property bool isCompact: width < 600
     readonly property alias header: header
@@ -69,6 +71,15 @@ Item {
         anchors.bottom: parent.bottom
         width: parent.width
         clip: true
+
+        // Opaque, and short of the window's round corners and its outline: what lies beneath the list
+        // need not be painted for every frame in which it scrolls.
+        Rectangle {
+            anchors.fill: parent
+            anchors.rightMargin: detail.radius
+            anchors.bottomMargin: detail.radius
+            color: Theme.bg
+        }
 
         RuleListHeader {
             id: heading

@@ -21,7 +21,8 @@ FocusScope {
     }
 
     function openMenu() {
-        menu.popup(more, more.width - menu.implicitWidth, more.height + 4);
+        menu.active = true;
+        menu.item.popup(more, more.width - menu.item.implicitWidth, more.height + 4);
     }
 
     FolderTile {
@@ -183,7 +184,9 @@ FocusScope {
         }
     }
 
-    FolderMenu {
+    Loader {
         id: menu
+        active: false
+        sourceComponent: FolderMenu {}
     }
 }

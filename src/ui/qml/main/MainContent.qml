@@ -10,6 +10,9 @@ Item {
     readonly property bool buttonsAtStart: Desktop.hasButtonsAtStart
     readonly property bool chatIsOpen: App.chat.isOpen
     readonly property bool chatLiesOver: chatIsOpen && width < 960
+    /// What the panel takes of the page at once: its rules are wrapped anew when the panel opens, and not
+    /// for each frame in which it slides into its place.
+    readonly property real chatRoom: chatIsOpen && !chatLiesOver ? chat.fullWidth : 0
 
     Rectangle {
         anchors.fill: parent
@@ -35,19 +38,23 @@ Item {
         FolderDetail {
             id: detail
             anchors.left: sidebar.right
-            anchors.right: content.chatLiesOver ? parent.right : chat.left
+            anchors.right: parent.right
+            anchors.rightMargin: content.chatRoom
             height: parent.height
             visible: App.page.hasFolder
+            radius: content.radius
             endMargin: content.chatIsOpen && !content.chatLiesOver ? Theme.s5 : Theme.s6
-            roomForButtons: content.buttonsAtStart ? 0 : Math.max(0, windowButtons.width + Theme.s4 + 34 - endMargin - (content.chatLiesOver ? 0 : chat.width))
+            roomForButtons: content.buttonsAtStart ? 0 : Math.max(0, windowButtons.width + Theme.s4 + 34 - endMargin - content.chatRoom)
             carried: hand
         }
 
-        NoFolders {
-            visible: !App.page.hasFolder
+        Loader {
+            active: !App.page.hasFolder
+            focus: active
             anchors.left: sidebar.right
             anchors.right: detail.right
             height: parent.height
+            sourceComponent: NoFolders {}
         }
 
         ChatPanel {
@@ -140,7 +147,6 @@ Item {
     Loader {
         id: sheetHost
         anchors.fill: parent
-        focus: active
         active: App.sheets.current !== ""
         source: active ? sheetFiles[App.sheets.current] || "" : ""
 

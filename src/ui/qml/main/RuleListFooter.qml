@@ -118,6 +118,7 @@ Item {
                         spokenTime: place.spokenTime
                         canReveal: place.canReveal
                         canUndo: place.canUndo
+                        undoing: App.entries.undoing.includes(place.key)
                         isError: place.isError
                         compact: footer.isCompact
                         isTabStop: place.index === Math.min(card.current, repeater.count - 1)

@@ -35,7 +35,7 @@ Menu {
         id: copies
         title: qsTr("Copy to")
         iconName: "folder-open"
-        enabled: count > 0
+        enabled: App.page.otherFolders.length > 0
         key: menu.key
     }
 

@@ -36,13 +36,8 @@ Sheet {
             anchors.left: parent.left
             label: qsTr("Show")
             model: App.preview.fates
+            currentIndex: App.preview.fate
             onActivated: index => App.preview.fate = index
-
-            Binding {
-                target: fates
-                property: "currentIndex"
-                value: App.preview.fate
-            }
         }
 
         Field {
@@ -188,8 +183,10 @@ Sheet {
             enabled: App.preview.canRun && App.page.canRun
             disabledReason: App.page.canRun ? App.preview.emptyText : App.page.whyNotRun
             onClicked: {
+                // Another folder may have been selected meanwhile, from the popover.
+                const folder = App.preview.folderID;
                 App.sheets.close();
-                App.page.run();
+                App.page.runFolder(folder);
             }
         }
     ]
