@@ -9,8 +9,8 @@
 #include "support/PrivateBus.h"
 
 #include <QCoreApplication>
-#include <QDBusVirtualObject>
 #include <QDBusPendingCall>
+#include <QDBusVirtualObject>
 #include <QElapsedTimer>
 #include <QPoint>
 #include <gmock/gmock.h>
