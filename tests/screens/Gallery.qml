@@ -130,6 +130,7 @@ Rectangle {
                     required property int modelData
                     anchors.verticalCenter: parent ? parent.verticalCenter : undefined
                     checkState: modelData
+                    label: ["Empty", "Some", "Ticked"][modelData]
                     label: "All files"
                 }
             }

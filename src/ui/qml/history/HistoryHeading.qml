@@ -18,7 +18,10 @@ Rectangle {
         anchors.baselineOffset: -13
         text: heading.day ? heading.day.heading : ""
         style: Theme.bodyStrong
+        // The list keeps headings of days that are filtered away.
+        visible: text !== ""
         Accessible.role: Accessible.Heading
+        Accessible.ignored: text === ""
     }
 
     Label {
