@@ -130,7 +130,6 @@ Rectangle {
                     required property int modelData
                     anchors.verticalCenter: parent ? parent.verticalCenter : undefined
                     checkState: modelData
-                    label: ["Empty", "Some", "Ticked"][modelData]
                     label: "All files"
                 }
             }
