@@ -384,6 +384,7 @@ Rectangle {
                     x: 420
                     y: 18
                     checked: true
+                    label: "File invoices"
                 }
             }
         }

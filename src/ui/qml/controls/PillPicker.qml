@@ -113,7 +113,8 @@ T.ComboBox {
         }
     }
 
-    popup: T.Popup {
+    popup: T.Dialog { // of which alone the name is told
+        title: control.label
         y: control.height + 4
         width: Math.max(control.width, control.widest + 60 + (control.iconRole !== "" && control.iconRoom === 0 ? 26 : 0))
         height: Math.min(contentItem.implicitHeight + topPadding + bottomPadding, control.Window.height - 24)
