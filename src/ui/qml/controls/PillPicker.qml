@@ -113,8 +113,7 @@ T.ComboBox {
         }
     }
 
-    popup: T.Dialog { // of which alone the name is told
-        title: control.label
+    popup: T.Popup {
         y: control.height + 4
         width: Math.max(control.width, control.widest + 60 + (control.iconRole !== "" && control.iconRoom === 0 ? 26 : 0))
         height: Math.min(contentItem.implicitHeight + topPadding + bottomPadding, control.Window.height - 24)
@@ -122,6 +121,8 @@ T.ComboBox {
         padding: 5
 
         contentItem: ListView {
+            Accessible.role: Accessible.List
+            Accessible.name: control.label
             implicitHeight: contentHeight
             clip: true
             // Lines that are still there when their picker goes take the process with them.
