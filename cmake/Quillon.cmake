@@ -14,9 +14,10 @@ target_compile_definitions(quillon_options INTERFACE
   QUILLON_VERSION="${PROJECT_VERSION}")
 
 # One static library a folder. Its links are its permission to include: a folder sees only what it
-# names here and what those name in turn.
+# names here and what those name in turn. APART: its files are compiled one by one, since what each
+# keeps to itself has the same names in all.
 function(quillon_library folder)
-  cmake_parse_arguments(arg "QOBJECTS" "" "LINK;PARTS" ${ARGN})
+  cmake_parse_arguments(arg "APART;QOBJECTS" "" "LINK;PARTS" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
   file(GLOB sources CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*.h
@@ -29,6 +30,9 @@ function(quillon_library folder)
   endforeach()
   add_library(quillon_${name} STATIC ${sources})
   set_target_properties(quillon_${name} PROPERTIES LINKER_LANGUAGE CXX AUTOMOC ${arg_QOBJECTS})
+  if(arg_APART)
+    set_target_properties(quillon_${name} PROPERTIES UNITY_BUILD OFF)
+  endif()
   target_link_libraries(quillon_${name} PUBLIC quillon_options Qt6::Core ${arg_LINK})
   if(TARGET quillon_platform AND NOT name STREQUAL "platform")
     target_precompile_headers(quillon_${name} REUSE_FROM quillon_platform)

@@ -8,7 +8,7 @@ namespace {
 using SteadyClock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds requestPatience{10};
-constexpr std::chrono::milliseconds betweenLooks{20};
+constexpr std::chrono::milliseconds betweenLooksForCancel{20};
 constexpr std::chrono::milliseconds betweenWakings{500};
 
 } // namespace
@@ -120,7 +120,7 @@ std::optional<Frame> CommandConnection::receive(SteadyClock::time_point deadline
 }
 
 void CommandConnection::lookForCancel() {
-    nextLook_ = SteadyClock::now() + betweenLooks;
+    nextLook_ = SteadyClock::now() + betweenLooksForCancel;
     // Nothing but a cancel may come unasked.
     if (receive(SteadyClock::now()))
         isCancelled_ = true;

@@ -11,14 +11,14 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-const Timestamp now{std::chrono::sys_days{std::chrono::year{2026} / 5 / 23} +
-                    std::chrono::hours(13) + std::chrono::seconds(5)};
+const Timestamp afternoon{std::chrono::sys_days{std::chrono::year{2026} / 5 / 23} +
+                          std::chrono::hours(13) + std::chrono::seconds(5)};
 
 DiagnosticsSystem machine(QStringView name) {
     return {.appVersion = u"1.2"_s,
             .name = name.toString(),
             .version = u"Debian GNU/Linux 12 (bookworm)"_s,
-            .now = now,
+            .now = afternoon,
             .locale = u"en_GB"_s};
 }
 
@@ -35,7 +35,7 @@ TEST(Diagnostics, TellTheWholeStateInPlainText) {
     desktop.path = u"/home/anna/Desktop"_s;
     desktop.isRecursive = true;
     desktop.setTiming(TidyTiming::every6h);
-    const LogEntry wrong{.date = now - std::chrono::hours(24),
+    const LogEntry wrong{.date = afternoon - std::chrono::hours(24),
                          .fileName = u"a.pdf"_s,
                          .actionSummary = u"script failed: one\ntwo"_s,
                          .folderName = u"Downloads"_s,
@@ -76,8 +76,8 @@ ACTIVITY LOG: 3 entries kept (1 actions, 2 errors))"_s);
 }
 
 TEST(Diagnostics, CountEveryErrorAndListFifty) {
-    const std::vector<LogEntry> logs(120,
-                                     LogEntry{.date = now, .fileName = u"x"_s, .isError = true});
+    const std::vector<LogEntry> logs(
+        120, LogEntry{.date = afternoon, .fileName = u"x"_s, .isError = true});
     const QString report = diagnosticsReport({}, {}, logs, {}, machine(linuxName));
     EXPECT_TRUE(report.contains(u"\nWATCHED FOLDERS (0)\n\nERRORS (last 24h: 120, showing up to 50 "
                                 u"of 120 kept)\n"_s));

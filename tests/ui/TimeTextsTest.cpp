@@ -76,8 +76,8 @@ TEST(CountTextsTest, CountsAndMeasures) {
         {3'840'000'000, u"3.8 GB"_s},
         {9'960'000, u"10 MB"_s},
     };
-    for (const auto& [bytes, text] : sizes)
-        EXPECT_EQ(sizeText(bytes), text) << bytes;
+    for (const auto& [bytes, said] : sizes)
+        EXPECT_EQ(sizeText(bytes), said) << bytes;
 }
 
 TEST(CountTextsTest, SaysWhatUndoingCameTo) {
