@@ -139,14 +139,22 @@ std::size_t RuleEngine::onlineOnlyCount(const WatchedFolder& folder) const {
     }));
 }
 
-Expected<QSet<QString>> RuleEngine::currentKeys(const WatchedFolder& folder) const {
+Expected<QSet<QString>> RuleEngine::currentKeys(const WatchedFolder& folder,
+                                                std::optional<Timestamp> thereAt) const {
     const Expected<Listing> listing = files(folder);
     if (!listing)
         return std::unexpected(listing.error());
+    const Timestamp now = platform_.clock.now();
+    // Whatever is made, moved here or given other contents gets this date, too. One in the future
+    // comes from another clock and tells nothing.
+    const auto cameAfterwards = [&](const FileStatus& status) {
+        return thereAt && status.changed >= *thereAt && status.changed <= now;
+    };
     QSet<QString> keys;
     const std::string path = folderPath(folder);
     for (const ListedFile& file : listing->files)
-        keys.insert(fileKey(joinPath(path, file.path), file.status));
+        if (!cameAfterwards(file.status))
+            keys.insert(fileKey(joinPath(path, file.path), file.status));
     return keys;
 }
 

@@ -53,10 +53,19 @@ struct TidyRuns::Run {
     }
 };
 
-TidyRuns::TidyRuns(StoreCore& core)
-    : core_(core), retries_(core.around.timers, [this](const QUuid& folderID) {
+TidyRuns::TidyRuns(StoreCore& core, KnownFiles& known)
+    : core_(core), known_(known), retries_(core.around.timers, [this](const QUuid& folderID) {
         request(folderID, RunCause::automatic);
     }) {}
+
+std::uint64_t TidyRuns::takeNumber() {
+    unfinished_.emplace(++lastNumber_, std::make_shared<std::atomic<bool>>(false));
+    return lastNumber_;
+}
+
+void TidyRuns::awaitKnown(const QUuid& folderID) {
+    known_.whenKnown(folderID, [this, number = takeNumber()] { finished(number); });
+}
 
 std::uint64_t TidyRuns::request(const QUuid& folderID, RunCause cause) {
     const WatchedFolder* const folder = core_.folder(folderID);
@@ -67,23 +76,26 @@ std::uint64_t TidyRuns::request(const QUuid& folderID, RunCause cause) {
             waiting->second.cause = cause;
         return waiting->second.number;
     }
-    const std::uint64_t number = ++lastNumber_;
-    unfinished_.emplace(number, std::make_shared<std::atomic<bool>>(false));
+    const std::uint64_t number = takeNumber();
     waiting_.emplace(folderID, Request{number, cause});
-    core_.lanes.add(folder->path,
-                    {.start = [this, folderID](const auto& ended) { start(folderID, ended); },
-                     .drop =
-                         [this, folderID, number] {
-                             waiting_.erase(folderID);
-                             finished(number);
-                         }});
+    core_.lanes.add(folder->path, {.start =
+                                       [this, folderID](const auto& ended) {
+                                           known_.whenKnown(folderID, [this, folderID, ended] {
+                                               start(folderID, ended);
+                                           });
+                                       },
+                                   .drop =
+                                       [this, folderID, number] {
+                                           waiting_.erase(folderID);
+                                           finished(number);
+                                       }});
     return number;
 }
 
 void TidyRuns::start(const QUuid& folderID, const std::function<void()>& ended) {
     const Request request = waiting_.extract(folderID).mapped();
     const WatchedFolder* const folder = core_.folder(folderID);
-    if (!folder) {
+    if (!folder || core_.isAtRest()) {
         finished(request.number);
         return ended();
     }

@@ -117,7 +117,7 @@ void FolderPage::setRecursive(bool isRecursive) {
 }
 
 void FolderPage::setOnlyNewFiles(bool onlyNew) {
-    if (folder() && onlyNew != folder()->onlyNewFiles)
+    if (folder() && onlyNew != onlyNewFiles())
         around_.store.setOnlyNewFiles(onlyNew, folder()->id);
 }
 
