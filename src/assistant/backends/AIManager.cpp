@@ -76,7 +76,8 @@ QCoro::Task<Expected<QString>> AIManager::askClaude(AIRequest request) {
                                .messages = std::move(request.messages),
                                .maxTokens = maxTokens,
                                .schema = std::move(request.schema),
-                               .effort = u"low"_s};
+                               .effort = u"low"_s,
+                               .stop = std::move(request.stop)};
     const ClaudeExpected<ClaudeClient::Reply> reply = co_await client.send(std::move(what));
     if (!reply)
         co_return std::unexpected(asError(reply.error()));

@@ -158,6 +158,7 @@ QCoro::Task<AIExpected<QString>> OnDeviceModel::respond(QString model, AIRequest
     if (!host)
         co_return aiFailure(AIError::Kind::onDeviceUnavailable, host.error().message);
     HttpRequest ask = requestTo(*host, "/api/chat", chatBody(model, request), patience_.respond);
+    ask.stop = request.stop;
     const Expected<HttpReply> reply = co_await http_.fetch(std::move(ask));
     if (reply)
         co_return parse(reply->body, reply->status, request.schema);
