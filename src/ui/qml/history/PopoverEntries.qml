@@ -28,10 +28,13 @@ ListView {
         focusPolicy: ListView.isCurrentItem || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
         hoverEnabled: true
         onClicked: App.entries.reveal(key)
-        Keys.onReturnPressed: clicked()
-        Keys.onEnterPressed: clicked()
         Keys.onUpPressed: go(index - 1)
         Keys.onDownPressed: go(index + 1)
+        Keys.onPressed: event => {
+            event.accepted = Keystroke.isEnter(event);
+            if (event.accepted)
+                clicked();
+        }
 
         Accessible.role: Accessible.ListItem
         Accessible.name: fileName
