@@ -15,6 +15,7 @@ Menu {
     function showCopies() {
         currentIndex = 2;
         copies.open();
+        copies.goToEnd(1);
     }
 
     MenuItem {

@@ -1,7 +1,7 @@
 import QtQuick
 import Quillon
 
-/// Something that a sheet asks before it goes on, over all of it.
+/// Something that is asked before it goes on, over all that it fills.
 FocusScope {
     id: card
 
@@ -16,10 +16,10 @@ FocusScope {
 
     onVisibleChanged: {
         if (visible) {
-            before = Window.activeFocusItem;
+            before = FocusReturn.openerOf(Window.activeFocusItem);
             noButton.forceActiveFocus(Qt.TabFocusReason);
-        } else if (before) {
-            before.forceActiveFocus(Qt.PopupFocusReason);
+        } else {
+            FocusReturn.giveTo(before);
             before = null;
         }
     }
