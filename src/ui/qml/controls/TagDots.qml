@@ -10,6 +10,8 @@ Row {
     readonly property var words: ["red", "orange", "yellow", "green", "blue", "purple", "gray"]
     readonly property var names: [qsTr("Red"), qsTr("Orange"), qsTr("Yellow"), qsTr("Green"), qsTr("Blue"), qsTr("Purple"), qsTr("Grey")]
     readonly property int currentIndex: words.indexOf(current)
+    /// The dot that Tab comes to.
+    readonly property Item stop: repeater.count > 0 ? repeater.itemAt(Math.max(0, currentIndex)) : null
 
     signal chosen(string word)
 

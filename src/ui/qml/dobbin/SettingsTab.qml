@@ -19,10 +19,11 @@ T.RadioButton {
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.onPressAction: click()
-    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onPressed: event => {
+        event.accepted = Keystroke.isEnter(event);
+        if (event.accepted)
+            click();
+    }
 
     contentItem: Item {
         Symbol {

@@ -42,7 +42,8 @@ T.ItemDelegate {
     contentItem: Item {
         FileTile {
             id: tile
-            x: row.mirrored ? parent.width - width - 14 : 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: parent.verticalCenter
             fileName: row.fileName
             kind: row.kind
