@@ -91,9 +91,15 @@ Rectangle {
         }
     }
 
-    /// Read out once it has stood still.
-    Item {
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: bar.isComplete ? bar.probe.spoken : ""
+    Announcement {
+        id: announcement
+
+        Connections {
+            target: bar.probe
+            function onSpokenChanged() {
+                if (bar.isComplete && bar.probe.spoken !== "")
+                    announcement.say(bar.probe.spoken);
+            }
+        }
     }
 }

@@ -49,7 +49,7 @@ FocusScope {
             radius: Theme.rControl
             color: Theme.accent
             glyph: "guard"
-            iconColor: Theme.onTint
+            iconColor: Theme.onAccent
         }
 
         Label {
