@@ -13,6 +13,18 @@ Item {
     /// What the panel takes of the page at once: its rules are wrapped anew when the panel opens, and not
     /// for each frame in which it slides into its place.
     readonly property real chatRoom: chatIsOpen && !chatLiesOver ? chat.fullWidth : 0
+    readonly property Item focused: Window.activeFocusItem
+    readonly property bool isFocusLost: !focused || !focused.parent || !focused.visible
+    readonly property bool catchesFocus: isFocusLost && Window.active && !isBusyElsewhere
+
+    /// What had the focus may go, and what it was opened from with it: then the keyboard goes on from
+    /// the folders.
+    function catchFocus() {
+        if (catchesFocus)
+            (sidebar.list.currentItem ?? noFolders).forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    onCatchesFocusChanged: Qt.callLater(catchFocus)
 
     Rectangle {
         anchors.fill: parent
@@ -49,6 +61,7 @@ Item {
         }
 
         Loader {
+            id: noFolders
             active: !App.page.hasFolder
             focus: active
             anchors.left: sidebar.right
@@ -144,19 +157,8 @@ Item {
         }
     }
 
-    Loader {
-        id: sheetHost
+    SheetHost {
         anchors.fill: parent
-        active: App.sheets.current !== ""
-        source: active ? sheetFiles[App.sheets.current] || "" : ""
-
-        readonly property var sheetFiles: ({
-                "RuleEditorSheet": "qrc:/Quillon/editor/RuleEditorSheet.qml",
-                "PreviewSheet": "qrc:/Quillon/review/PreviewSheet.qml",
-                "CleanupSheet": "qrc:/Quillon/review/CleanupSheet.qml",
-                "PresetsSheet": "qrc:/Quillon/review/PresetsSheet.qml",
-                "HistorySheet": "qrc:/Quillon/history/HistorySheet.qml"
-            })
     }
 
     QuestionCard {
