@@ -132,14 +132,9 @@ T.Button {
         target: control
     }
 
-    Loader {
-        active: control.hovered && control.enabled && control.toolTip !== ""
-        sourceComponent: ToolTip {
-            parent: control
-            text: control.toolTip
-            shortcutText: control.shortcutText
-            visible: true
-        }
+    HoverTip {
+        text: control.toolTip
+        shortcutText: control.shortcutText
     }
 
     DisabledTip {

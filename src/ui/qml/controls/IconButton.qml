@@ -80,14 +80,9 @@ T.Button {
         target: control
     }
 
-    Loader {
-        active: control.hovered && control.enabled && control.label !== ""
-        sourceComponent: ToolTip {
-            parent: control
-            text: control.label
-            shortcutText: control.shortcutText
-            visible: true
-        }
+    HoverTip {
+        text: control.label
+        shortcutText: control.shortcutText
     }
 
     DisabledTip {

@@ -27,16 +27,8 @@ FocusScope {
     Keys.onEscapePressed: question.decline()
     Keys.onPressed: event => event.accepted = true
 
-    Rectangle {
+    Scrim {
         anchors.fill: parent
-        color: Theme.scrim
-
-        MouseArea {
-            anchors.fill: parent
-            hoverEnabled: true
-            acceptedButtons: Qt.AllButtons
-            onWheel: wheel => wheel.accepted = true
-        }
     }
 
     Rectangle {
@@ -81,13 +73,13 @@ FocusScope {
                 spacing: Theme.s2
 
                 Button {
+                    id: yesButton
                     visible: text !== ""
                     kind: card.question.isDestructive ? "destructive" : "secondary"
                     text: card.question.yes
                     onClicked: card.question.agree()
                     KeyNavigation.tab: noButton
                     KeyNavigation.backtab: noButton
-                    id: yesButton
                 }
 
                 Button {

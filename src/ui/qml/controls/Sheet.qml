@@ -101,17 +101,9 @@ FocusScope {
         onActiveFocusChanged: if (activeFocus) tail.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
     }
 
-    Rectangle {
+    Scrim {
         id: scrim
         anchors.fill: parent
-        color: Theme.scrim
-
-        MouseArea {
-            anchors.fill: parent
-            hoverEnabled: true
-            acceptedButtons: Qt.AllButtons
-            onWheel: wheel => wheel.accepted = true
-        }
     }
 
     SheetSurface {

@@ -38,26 +38,13 @@ Rectangle {
         Repeater {
             model: bar.editor.warnings
 
-            Row {
-                id: warning
+            MarkedLine {
                 required property string modelData
                 width: column.width
-                spacing: 6
-
-                Glyph {
-                    y: (Theme.caption.lineHeight - height) / 2
-                    name: "alert"
-                    size: 14
-                    color: Theme.warnIcon
-                }
-
-                Label {
-                    width: warning.width - 20
-                    text: warning.modelData
-                    style: Theme.caption
-                    color: Theme.warn
-                    wrapMode: Text.Wrap
-                }
+                glyph: "alert"
+                tint: Theme.warnIcon
+                text: modelData
+                ink: Theme.warn
             }
         }
 

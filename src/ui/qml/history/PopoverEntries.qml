@@ -8,7 +8,7 @@ ListView {
 
     model: App.popover.entries
     interactive: false
-    keyNavigationEnabled: true
+    keyNavigationEnabled: false
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Recent activity")
 
@@ -28,12 +28,14 @@ ListView {
         focusPolicy: ListView.isCurrentItem || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
         hoverEnabled: true
         onClicked: App.entries.reveal(key)
-        Keys.onUpPressed: go(index - 1)
-        Keys.onDownPressed: go(index + 1)
         Keys.onPressed: event => {
-            event.accepted = Keystroke.isEnter(event);
-            if (event.accepted)
+            const target = Keystroke.inList(event, index, ListView.view.count);
+            const isEnter = Keystroke.isEnter(event);
+            event.accepted = isEnter || target !== undefined;
+            if (isEnter)
                 clicked();
+            else if (event.accepted)
+                go(target);
         }
 
         Accessible.role: Accessible.ListItem

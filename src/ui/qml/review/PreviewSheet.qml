@@ -115,49 +115,13 @@ Sheet {
                 flickable: list
             }
 
-            Row {
-                anchors.centerIn: parent
-                visible: App.preview.isLooking
-                spacing: Theme.s2
-
-                Spinner {
-                    anchors.verticalCenter: parent.verticalCenter
-                }
-
-                Label {
-                    text: App.preview.lookingText
-                    color: Theme.text2
-                }
-            }
-
-            EmptyState {
-                anchors.centerIn: parent
-                width: parent.width - 2 * Theme.s6
-                visible: App.preview.hasFailed
-                title: qsTr("Quillon can’t read this folder.")
-                drawing: Component {
-                    Tile {
-                        size: 44
-                        iconName: "lock"
-                    }
-                }
-
-                Button {
-                    text: qsTr("Try Again")
-                    iconName: "view-refresh"
-                    onClicked: App.preview.look()
-                }
-            }
-
-            Label {
-                anchors.centerIn: parent
-                width: Math.min(implicitWidth, parent.width - 2 * Theme.s6)
-                visible: text !== ""
-                text: App.preview.emptyText
-                style: Theme.lead
-                color: Theme.text2
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
+            LookState {
+                anchors.fill: parent
+                isLooking: App.preview.isLooking
+                lookingText: App.preview.lookingText
+                hasFailed: App.preview.hasFailed
+                emptyText: App.preview.emptyText
+                onAgainAsked: App.preview.look()
             }
         }
     }
