@@ -88,7 +88,8 @@ TEST_F(DesktopTest, theTrayItemFollowsAStatusAreaThatComesAndGoes) {
     int paused = 0;
     tray.start({.pictures = {{.size = 1, .pixels = QByteArray("\xff\x01\x02\x03", 4)}},
                 .toolTip = {},
-                .needsAttention = true},
+                .needsAttention = true,
+                .isRightToLeft = true},
                {{.label = u"Open"_s}, {.label = u"Pause"_s, .chosen = [&] { ++paused; }}},
                {.activated =
                     [&](int x, int y) {
@@ -114,6 +115,11 @@ TEST_F(DesktopTest, theTrayItemFollowsAStatusAreaThatComesAndGoes) {
             .variant();
     };
     EXPECT_EQ(property(u"Status"_s), u"NeedsAttention"_s);
+    EXPECT_EQ(ask(item, u"/MenuBar"_s, properties, u"Get"_s,
+                  {u"com.canonical.dbusmenu"_s, u"TextDirection"_s})
+                  .value<QDBusVariant>()
+                  .variant(),
+              u"rtl"_s);
     const auto pictures = qdbus_cast<QList<BusPicture>>(property(u"IconPixmap"_s));
     ASSERT_EQ(pictures.size(), 1);
     EXPECT_EQ(pictures[0].pixels, QByteArray("\xff\x01\x02\x03", 4));
