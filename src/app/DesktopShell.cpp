@@ -111,6 +111,7 @@ void DesktopShell::showSettings() {
     settingsWindow_ = makeWindow(around_.engine, u"SettingsWindow"_s);
     settingsWindow_->setProperty("isSquare", QGuiApplication::platformName() == u"xcb" &&
                                                  !around_.desktop.windowHints().isComposited());
+    main_.centre(*settingsWindow_);
     settingsWindow_->show();
     settingsWindow_->requestActivate();
 }
