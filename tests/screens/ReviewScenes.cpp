@@ -1,10 +1,12 @@
 #include "SampleFiles.h"
 #include "Scene.h"
 #include "model/Uuid.h"
+#include "service/Services.h"
 
 #include <QTimer>
 
 #include <filesystem>
+#include <thread>
 
 namespace quillon::testing {
 
@@ -63,6 +65,17 @@ Scene preview(const QString& name, const QString& folder,
                 if (then)
                     then(model);
             }};
+}
+
+/// Every thread has something else to do until after the picture.
+Scene previewLooking() {
+    Scene scene = preview(u"preview-looking"_s, u"Downloads"_s);
+    scene.arrange = [open = scene.arrange](Stage& stage) {
+        for (int i = 0; i < 16; ++i)
+            stage.services.background().start([] { std::this_thread::sleep_for(1800ms); }, [] {});
+        open(stage);
+    };
+    return scene;
 }
 
 /// Tidied with one file that can't go where it should: a file stands in a folder's place.
@@ -142,6 +155,7 @@ std::vector<Scene> reviewScenes() {
         cleanupOf(u"cleanup-desktop"_s, u"Desktop"_s),
         preview(u"preview"_s, u"Downloads"_s),
         preview(u"preview-left"_s, u"Downloads"_s, [](PreviewModel& model) { model.setFate(1); }),
+        previewLooking(),
         preview(u"preview-empty"_s, u"Desktop"_s),
         preview(u"preview-denied"_s, u"Team Drive"_s),
         {.name = u"presets"_s,
