@@ -16,6 +16,8 @@
 #include "store/UndoRun.h"
 #include "store/WatchCoordinator.h"
 
+#include <QDateTime>
+
 namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,6 +26,11 @@ namespace {
 
 constexpr std::chrono::minutes tickPeriod{1};
 constexpr std::uint64_t largestRuleFile = 64ULL << 20;
+
+QDate localDay(Timestamp moment) {
+    const auto time = std::chrono::floor<std::chrono::milliseconds>(moment).time_since_epoch();
+    return QDateTime::fromMSecsSinceEpoch(time.count()).date();
+}
 
 } // namespace
 
@@ -41,6 +48,7 @@ struct AppStore::State {
     std::optional<QUuid> selectedFolderID;
     std::optional<RuleCopy> lastRuleCopy;
     std::optional<PendingRuleEdit> pendingRuleEdit;
+    QDate day; ///< as it was a minute ago
     bool needsAttention = false;
     bool isProbing = false;
     bool isProbeDue = false;
@@ -76,7 +84,11 @@ void AppStore::startLiving() {
     state_->scheduleTimer = core.around.timers.every(tickPeriod, [this] {
         checkSchedules();
         updateAttention();
+        const QDate today = localDay(state_->core.now());
+        if (std::exchange(state_->day, today) != today)
+            Q_EMIT dayChanged();
     });
+    state_->day = localDay(core.now());
     refreshAccess();
     askQuestions();
 }

@@ -201,6 +201,8 @@ Q_SIGNALS:
     void lastSaveErrorChanged();
     void watchWarningsChanged();
     void needsAttentionChanged();
+    /// Of an instance, within a minute of local midnight or of waking up on another day.
+    void dayChanged();
     void runFinished(const quillon::RunReport& report);
     /// After the runs that it leads to have been asked for.
     void questionsResolved(const quillon::QuestionsOutcome& outcome);
