@@ -3,6 +3,7 @@
 #include "model/Uuid.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
+#include "store/Attention.h"
 #include "ui/CountTexts.h"
 #include "ui/FolderLook.h"
 #include "ui/TimeTexts.h"
@@ -404,7 +405,8 @@ void FolderPage::refreshBanner() {
         break;
     case Trouble::errors:
         banner_ = warn(tr("%1 couldn’t be filed today", "a number of files")
-                           .arg(fileCount(store.recentErrorCount(folder()->id))),
+                           .arg(fileCount(recentFailureCount(store.recentLogs(), folder()->id,
+                                                             around_.platform.clock.now()))),
                        {tr("Show Errors")});
         banner_.kind = u"error"_s;
         break;
