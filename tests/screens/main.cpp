@@ -66,7 +66,7 @@ int takePicture(QApplication& application, const Scene& scene, SampleHome& home,
                 const QString& file) {
     ModelServer server;
     playSampleModel(server);
-    Services services(home.folders());
+    Services services(home.folders(), SaidIn::window);
     choose(services, u"ai.localHost"_s, server.host());
     choose(services, u"hasOnboarded"_s, scene.isFirstRun ? u"false"_s : u"true"_s);
     const auto store = services.startInstance();
