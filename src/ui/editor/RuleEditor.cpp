@@ -9,6 +9,7 @@
 #include "platform/FileNames.h"
 #include "store/RuleEdits.h"
 #include "ui/FolderNames.h"
+#include "ui/RuleRemoval.h"
 #include "ui/editor/EditedRows.h"
 #include "ui/editor/Shortcuts.h"
 
@@ -421,19 +422,10 @@ void RuleEditor::deleteRule() {
     const Rule* const saved = savedRule();
     if (!opened_ || isNew_ || !saved)
         return;
-    const Rule rule = *saved;
+    const QUuid ruleID = saved->id;
     const QUuid folderID = folderID_;
-    const auto& rules = store_.folder(folderID)->rules;
-    const auto next = std::ranges::find(rules, rule.id, &Rule::id) + 1;
-    const QUuid before = next == rules.end() ? QUuid() : next->id;
     around_.sheets.close();
-    store_.deleteRule(rule.id, folderID);
-    around_.toasts.show(tr("“%1” deleted").arg(rule.name), tr("Undo"),
-                        [&store = store_, rule, folderID, before] {
-                            store.saveRule(rule, folderID);
-                            if (!before.isNull())
-                                store.moveRuleBefore(before, rule.id, folderID);
-                        });
+    removeRule(ruleID, folderID, store_, around_.toasts);
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 #include "engine/RuleSummary.h"
 #include "model/Uuid.h"
 #include "ui/ActionIcon.h"
+#include "ui/RuleRemoval.h"
 #include "ui/editor/EditedRows.h"
 
 #include <algorithm>
@@ -60,23 +61,7 @@ void RuleListModel::duplicate(const QString& key) {
 }
 
 void RuleListModel::remove(const QString& key) {
-    const WatchedFolder* const folder = store_.folder(folderID_);
-    if (!folder)
-        return;
-    const auto found = std::ranges::find(folder->rules, idOf(key), &Rule::id);
-    if (found == folder->rules.end())
-        return;
-    Rule rule = *found;
-    const auto next = found + 1;
-    const QUuid before = next == folder->rules.end() ? QUuid() : next->id;
-    store_.deleteRule(rule.id, folderID_);
-    const QString sentence = tr("“%1” deleted").arg(rule.name);
-    toasts_.show(sentence, tr("Undo"),
-                 [&store = store_, rule = std::move(rule), folderID = folderID_, before] {
-                     store.saveRule(rule, folderID);
-                     if (!before.isNull())
-                         store.moveRuleBefore(before, rule.id, folderID);
-                 });
+    removeRule(idOf(key), folderID_, store_, toasts_);
 }
 
 void RuleListModel::moveTo(const QString& key, int row) {
