@@ -10,6 +10,7 @@ Item {
     property color tint
     property color ink: Theme.text2
     property int role: Accessible.StaticText
+    property bool isSaidElsewhere: false
 
     implicitHeight: words.implicitHeight
 
@@ -32,5 +33,6 @@ Item {
         color: line.ink
         wrapMode: Text.Wrap
         Accessible.role: line.role
+        Accessible.ignored: line.isSaidElsewhere
     }
 }

@@ -14,13 +14,15 @@ Item {
     /// for each frame in which it slides into its place.
     readonly property real chatRoom: chatIsOpen && !chatLiesOver ? chat.fullWidth : 0
     readonly property Item focused: Window.activeFocusItem
-    readonly property bool isFocusLost: !focused || !focused.parent || !focused.visible
+    readonly property bool isFocusLost: !focused || !focused.parent || !focused.visible || focused === detail.rules || focused === sidebar.list
     readonly property bool catchesFocus: isFocusLost && Window.active && !isBusyElsewhere
 
     /// What had the focus may go, and what it was opened from with it: then the keyboard goes on from
-    /// the folders.
+    /// the next rule or from the folders.
     function catchFocus() {
-        if (catchesFocus)
+        if (catchesFocus && focused === detail.rules)
+            detail.rules.takeFocus();
+        else if (catchesFocus)
             (sidebar.list.currentItem ?? noFolders).forceActiveFocus(Qt.PopupFocusReason);
     }
 

@@ -17,6 +17,8 @@ T.ItemDelegate {
     required property bool isEnabled
     required property string description
     property bool isCarried: false
+    /// Its rule is gone, and it waits for another: then it can't have the focus.
+    property bool isPooled: false
     readonly property int radius: Theme.rCard
     readonly property bool isCurrent: ListView.isCurrentItem || ListView.view !== null && ListView.view.currentIndex < 0 && index === 0
     readonly property bool focusWithin: activeFocus || grip.activeFocus || more.activeFocus || toggle.activeFocus
@@ -27,8 +29,9 @@ T.ItemDelegate {
     signal gripCancelled
 
     height: Math.max(column.y + column.implicitHeight + Theme.s3 + 1, Theme.scaled(62))
-    focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
+    enabled: !isPooled
     opacity: isCarried ? 0.35 : 1
 
     Accessible.role: Accessible.ListItem
@@ -39,6 +42,9 @@ T.ItemDelegate {
 
     onClicked: edit()
     onActiveFocusChanged: if (activeFocus) ListView.view.currentIndex = index
+
+    ListView.onPooled: isPooled = true
+    ListView.onReused: isPooled = false
 
     function edit() {
         App.editor.edit(App.page.folderID, key);
@@ -205,38 +211,23 @@ T.ItemDelegate {
             Accessible.ignored: true
         }
 
-        Repeater {
-            model: card.warnings
+        Column {
+            width: parent.width
+            visible: card.warnings.length > 0
+            topPadding: Theme.s1
+            spacing: 6
 
-            Item {
-                id: warning
+            Repeater {
+                model: card.warnings
 
-                required property string modelData
-
-                width: column.width
-                height: words.implicitHeight + 4
-
-                Glyph {
-                    id: mark
-                    anchors.left: parent.left
-                    anchors.top: words.top
-                    anchors.topMargin: 1
-                    name: "alert"
-                    size: 14
-                    color: Theme.warnIcon
-                }
-
-                Label {
-                    id: words
-                    anchors.left: mark.right
-                    anchors.leftMargin: 6
-                    anchors.right: parent.right
-                    anchors.bottom: parent.bottom
-                    text: warning.modelData
-                    style: Theme.caption
-                    color: Theme.warn
-                    wrapMode: Text.Wrap
-                    Accessible.ignored: true
+                MarkedLine {
+                    required property string modelData
+                    width: column.width
+                    glyph: "alert"
+                    tint: Theme.warnIcon
+                    text: modelData
+                    ink: Theme.warn
+                    isSaidElsewhere: true
                 }
             }
         }

@@ -29,7 +29,7 @@ T.ItemDelegate {
     signal dragCancelled
 
     height: Theme.rowSidebar
-    focusPolicy: isSelected ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isSelected || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
 
     Accessible.role: Accessible.ListItem
@@ -98,6 +98,7 @@ T.ItemDelegate {
         anchors.bottomMargin: -3
         text: row.name
         style: row.isSelected ? Theme.bodyStrong : Theme.bodyMedium
+        showsTip: false // the row's says more
         Accessible.ignored: true
     }
 
