@@ -8,7 +8,6 @@ FocusScope {
     property bool floating: false
     property int radius: 0
 
-    Keys.onEscapePressed: App.chat.isOpen = false
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Dobbin")
 
