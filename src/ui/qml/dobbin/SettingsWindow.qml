@@ -53,6 +53,11 @@ Window {
         onActivated: window.close()
     }
 
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
+    }
+
     Rectangle {
         anchors.fill: parent
         radius: window.isSquare ? 0 : Theme.rCard
