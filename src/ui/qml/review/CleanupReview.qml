@@ -102,7 +102,10 @@ FocusScope {
             lookingText: qsTr("Looking through %1…").arg(App.cleanup.folderName)
             hasFailed: App.cleanup.state === "failed"
             emptyText: App.cleanup.emptyText
-            onAgainAsked: App.cleanup.look()
+            onAgainAsked: {
+                recipes.forceActiveFocus(Qt.OtherFocusReason);
+                App.cleanup.look();
+            }
         }
     }
 }

@@ -121,7 +121,10 @@ Sheet {
                 lookingText: App.preview.lookingText
                 hasFailed: App.preview.hasFailed
                 emptyText: App.preview.emptyText
-                onAgainAsked: App.preview.look()
+                onAgainAsked: {
+                    list.forceActiveFocus(Qt.OtherFocusReason);
+                    App.preview.look();
+                }
             }
         }
     }
