@@ -216,7 +216,11 @@ void TidyRuns::notify(const Run& run) const {
     core_.around.notifier.post(
         {.title = u"Quillon tidied %1"_s.arg(run.folder.name()),
          .body = u"Filed %1 file%2."_s.arg(filed.size()).arg(plural),
-         .undo = core_.whileAlive([&store = core_.store, filed] { store.undo(filed, {}); })});
+         .undo = core_.whileAlive([&store = core_.store, filed] { store.undo(filed, {}); }),
+         .show = core_.whileAlive([&store = core_.store, id = run.folder.id] {
+             if (store.folder(id))
+                 store.setSelectedFolderID(id);
+         })});
 }
 
 void TidyRuns::retryLater(const Run& run) {
