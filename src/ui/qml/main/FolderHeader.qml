@@ -54,7 +54,6 @@ FocusScope {
         text: App.page.details
         style: Theme.caption
         color: Theme.text2
-        elide: Text.ElideMiddle
     }
 
     Button {

@@ -14,7 +14,9 @@ Item {
     /// for each frame in which it slides into its place.
     readonly property real chatRoom: chatIsOpen && !chatLiesOver ? chat.fullWidth : 0
     readonly property Item focused: Window.activeFocusItem
-    readonly property bool isFocusLost: !focused || !focused.parent || !focused.visible || focused === detail.rules || focused === sidebar.list
+    readonly property bool isFocusLost: !focused || !focused.parent || focused === detail.rules || focused === sidebar.list
+    /// A sheet that reaches them lies over the window's buttons, so that none is taken for one of its own.
+    readonly property bool sheetHidesButtons: sheets.reaches(windowButtons)
     readonly property bool catchesFocus: isFocusLost && Window.active && !isBusyElsewhere
 
     /// What had the focus may go, and what it was opened from with it: then the keyboard goes on from
@@ -103,7 +105,7 @@ Item {
         anchors.right: isAtStart ? undefined : parent.right
         anchors.margins: Theme.s4
         y: 17
-        z: 1
+        z: content.sheetHidesButtons ? 0 : 1
     }
 
     Rectangle {
@@ -160,6 +162,7 @@ Item {
     }
 
     SheetHost {
+        id: sheets
         anchors.fill: parent
     }
 

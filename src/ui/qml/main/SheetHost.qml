@@ -19,6 +19,11 @@ Item {
     /// Where the surface was while there was something on it.
     property rect lastPlace
 
+    /// Whether it lies over a part of the item, or next to it.
+    function reaches(item) {
+        return panel !== null && place.y < item.y + item.height + Theme.s1 && place.x < item.x + item.width + Theme.s1 && place.x + place.width > item.x - Theme.s1;
+    }
+
     onPlaceChanged: if (panel && App.sheets.current !== "") lastPlace = place
     onCurrentChanged: {
         if (current !== "") {
