@@ -23,6 +23,7 @@ T.ItemDelegate {
     readonly property bool isCurrent: ListView.isCurrentItem || ListView.view !== null && ListView.view.currentIndex < 0 && index === 0
     readonly property bool focusWithin: activeFocus || grip.activeFocus || more.activeFocus || toggle.activeFocus
 
+    signal gripTaken
     /// Places are those of the window's contents.
     signal gripMoved(point place)
     signal gripReleased(point place)
@@ -131,7 +132,11 @@ T.ItemDelegate {
             preventStealing: true
             onPressed: mouse => start = Qt.point(mouse.x, mouse.y)
             onPositionChanged: mouse => {
-                isDragging = isDragging || Math.abs(mouse.x - start.x) + Math.abs(mouse.y - start.y) > Qt.styleHints.startDragDistance;
+                const distance = Math.abs(mouse.x - start.x) + Math.abs(mouse.y - start.y);
+                if (!isDragging && distance > Qt.styleHints.startDragDistance) {
+                    isDragging = true;
+                    card.gripTaken();
+                }
                 if (isDragging)
                     card.gripMoved(mapToItem(null, mouse.x, mouse.y));
             }

@@ -23,8 +23,9 @@ T.ItemDelegate {
     readonly property bool isTarget: ListView.view && ListView.view.ruleTarget === index
     readonly property int radius: Theme.rRow
 
-    /// Of its list.
-    signal dragMoved(real y)
+    signal dragBegun
+    /// Places are those of its list.
+    signal dragMoved(real x, real y)
     signal dragDropped
     signal dragCancelled
 
@@ -156,9 +157,14 @@ T.ItemDelegate {
         onPositionChanged: mouse => {
             if (!(mouse.buttons & Qt.LeftButton))
                 return;
-            isDragging = isDragging || Math.abs(mouse.y - startY) > Qt.styleHints.startDragDistance;
-            if (isDragging)
-                row.dragMoved(mapToItem(row.ListView.view, mouse.x, mouse.y).y);
+            if (!isDragging && Math.abs(mouse.y - startY) > Qt.styleHints.startDragDistance) {
+                isDragging = true;
+                row.dragBegun();
+            }
+            if (!isDragging)
+                return;
+            const place = mapToItem(row.ListView.view, mouse.x, mouse.y);
+            row.dragMoved(place.x, place.y);
         }
         onReleased: mouse => {
             if (isDragging)
