@@ -4,12 +4,12 @@
 #include "platform/Background.h"
 #include "platform/Timers.h"
 #include "store/AppStore.h"
+#include "ui/LatestWork.h"
 #include "ui/Sheets.h"
 #include "ui/review/RunForecast.h"
 
 #include <QAbstractListModel>
 
-#include <atomic>
 #include <memory>
 
 namespace quillon {
@@ -86,6 +86,7 @@ private:
     void giveUp();
     void forget();
     void layOut();
+    void setRows(std::vector<std::uint32_t> rows);
     void setState(State state);
     [[nodiscard]] const ForecastFile& file(int row) const;
 
@@ -95,11 +96,12 @@ private:
     int tint_ = 0;
     QString symbol_;
     std::size_t expected_ = 0; ///< files, as last counted; 0 when not known yet
-    RunForecast forecast_;
+    std::shared_ptr<const RunForecast> forecast_ = std::make_shared<const RunForecast>();
     FileFate fate_ = FileFate::changed;
     QString filter_;
     std::vector<std::uint32_t> rows_; ///< of the forecast's files
-    std::shared_ptr<std::atomic<bool>> isWanted_;
+    LatestWork looking_;
+    LatestWork filtering_;
     std::unique_ptr<Timer> untilLooking_;
 };
 
