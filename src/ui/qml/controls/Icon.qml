@@ -1,4 +1,5 @@
 /// An icon of the desktop's theme, in one colour.
 Pictogram {
     provider: "icon"
+    theme: Theme.desktop ? Theme.desktop.iconTheme : ""
 }
