@@ -42,7 +42,9 @@ FolderPage::FolderPage(const Surroundings& around, QObject* parent)
     connect(&store, &AppStore::runFinished, this, &FolderPage::endRun);
     minutes_ = around_.timers.every(1min, [this] {
         refresh();
-        countFiles();
+        // What changes in a live folder sets off a run, and a run a count.
+        if (folder() && (folder()->timing() != TidyTiming::live || around_.store.isPaused()))
+            countFiles();
     });
     refresh();
 }
