@@ -18,7 +18,7 @@ T.Button {
     Keys.onPressed: event => {
         event.accepted = Keystroke.isEnter(event);
         if (event.accepted)
-            click();
+            clicked();
     }
 
     contentItem: Label {

@@ -18,11 +18,11 @@ T.RadioButton {
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.onPressAction: click()
+    Accessible.onPressAction: clicked()
     Keys.onPressed: event => {
         event.accepted = Keystroke.isEnter(event);
         if (event.accepted)
-            click();
+            clicked();
     }
 
     contentItem: Item {
