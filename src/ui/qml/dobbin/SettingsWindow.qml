@@ -58,6 +58,8 @@ Window {
         onActivated: Qt.quit()
     }
 
+    FocusGuard {}
+
     Rectangle {
         anchors.fill: parent
         radius: window.isSquare ? 0 : Theme.rCard

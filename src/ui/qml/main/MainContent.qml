@@ -125,8 +125,8 @@ Item {
             detail.carryRule(x, y);
         }
         onDropped: (x, y) => {
-            if (!sidebar.dropRule(x, y))
-                detail.dropRule(x, y);
+            sidebar.dropRule(x, y);
+            detail.dropRule(x, y);
         }
         onEnded: {
             sidebar.ruleGone();
@@ -184,9 +184,11 @@ Item {
         }
     }
 
+    FocusGuard {}
+
     MainKeys {
         id: keys
-        enabled: !content.isBusyElsewhere
+        enabled: !content.isBusyElsewhere && !hand.isCarrying && !sidebar.list.isDragging
         sidebar: sidebar
         detail: detail
         chat: content.chatIsOpen ? chat : null
