@@ -106,25 +106,13 @@ ListView {
         view: list
     }
 
-    Rectangle {
-        id: insertionLine
+    InsertionLine {
         parent: list.contentItem
         visible: list.insertion >= 0
-        x: 10
+        x: LayoutMirroring.enabled ? 11 : 10
         y: list.originY + list.insertion * Theme.rowSidebar + list.insertion * 2 - 1
         z: 2
         width: list.width - 21
-        height: 2
-        color: Theme.accent
-
-        Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.horizontalCenter: parent.left
-            width: 8
-            height: 8
-            radius: 4
-            color: Theme.accent
-        }
     }
 
     spacing: 2

@@ -139,7 +139,7 @@ ListView {
         }
     }
 
-    Rectangle {
+    InsertionLine {
         readonly property Item before: list.insertion > 0 ? list.itemAtIndex(list.insertion - 1) : null
         readonly property Item after: list.insertion >= 0 ? list.itemAtIndex(list.insertion) : null
 
@@ -149,17 +149,6 @@ ListView {
         x: list.LayoutMirroring.enabled ? list.endMargin : list.startMargin
         y: after ? after.y - 5 : before ? before.y + before.height + 3 : 0
         width: list.width - list.startMargin - list.endMargin
-        height: 2
-        color: Theme.accent
-
-        Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.horizontalCenter: parent.left
-            width: 8
-            height: 8
-            radius: 4
-            color: Theme.accent
-        }
     }
 
     RuleMenu {
