@@ -1,6 +1,7 @@
 #include "ui/history/HistoryModel.h"
 
 #include "model/Uuid.h"
+#include "ui/ProgressRelay.h"
 #include "ui/UndoTexts.h"
 
 #include <QPointer>
@@ -135,12 +136,11 @@ void HistoryModel::undoBatch(const QString& key) {
             if (self)
                 self->undoEnded(id, report);
         },
-        [self, id = *batchID, &background = around_.background](std::size_t done, std::size_t all) {
-            background.post([self, id, done, all] {
-                if (self)
-                    self->undoProgressed(id, {.done = done, .total = all});
-            });
-        },
+        relayed(around_.background,
+                [self, id = *batchID](std::size_t done, std::size_t all) {
+                    if (self)
+                        self->undoProgressed(id, {.done = done, .total = all});
+                }),
         [mayContinue] { return mayContinue->load(); });
 }
 

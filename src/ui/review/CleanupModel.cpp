@@ -3,6 +3,7 @@
 #include "model/Uuid.h"
 #include "ui/CountTexts.h"
 #include "ui/FolderLook.h"
+#include "ui/ProgressRelay.h"
 #include "ui/UndoTexts.h"
 
 #include <QPointer>
@@ -146,23 +147,12 @@ QString CleanupModel::progressText() const {
                                     : tr("Tidying… %1", "such as 23 of 37 files").arg(amount);
 }
 
-/// Tells the newest number only: there is one report a file.
 Progress CleanupModel::reporter() {
-    struct Report {
-        std::atomic<std::size_t> done = 0;
-        std::atomic<bool> isOnItsWay = false;
-    };
-    return [self = QPointer(this), report = std::make_shared<Report>(),
-            &background = around_.background](std::size_t done, std::size_t total) {
-        report->done = done;
-        if (report->isOnItsWay.exchange(true))
-            return;
-        background.post([self, report, total] {
-            report->isOnItsWay = false;
-            if (self)
-                self->progressed(report->done, total);
-        });
-    };
+    return relayed(around_.background,
+                   [self = QPointer(this)](std::size_t done, std::size_t total) {
+                       if (self)
+                           self->progressed(done, total);
+                   });
 }
 
 void CleanupModel::tidy() {
