@@ -56,6 +56,25 @@ void choose(Services& services, const QString& key, const QString& value) {
         qFatal("%s", qUtf8Printable(chosen.error().message));
 }
 
+/// Takes the picture once the scene has settled and is ready. Its time passes in small steps, of
+/// which a busy computer takes no two at once.
+void takeWhenReady(QApplication& application, const Scene& scene, Stage& stage,
+                   const QString& file) {
+    constexpr std::chrono::milliseconds step(100);
+    constexpr std::chrono::seconds patience(20);
+    auto* const clock = new QTimer(&stage.window);
+    QObject::connect(clock, &QTimer::timeout, &application,
+                     [&, clock, file, passed = std::chrono::milliseconds(0)]() mutable {
+                         passed += step;
+                         if (passed < scene.settling ||
+                             (!scene.isReady(stage) && passed < patience))
+                             return;
+                         clock->stop();
+                         application.exit(stage.window.grabWindow().save(file) ? 0 : 1);
+                     });
+    clock->start(step);
+}
+
 /// "960x640".
 QSize sizeFrom(const QString& text) {
     const QStringList size = text.split(u'x');
@@ -80,14 +99,13 @@ int takePicture(QApplication& application, const Scene& scene, SampleHome& home,
                     .loginItem = desktop});
     const auto engine = makeQmlEngine(model);
     const auto window = makeWindow(*engine, scene.window);
-    if (size.isValid())
+    if (size.isValid() && scene.window == Scene().window)
         window->resize(size);
     window->show();
     Stage stage{model, *window, **store, services, home, desktop, server};
     scene.arrange(stage);
     if (!file.isEmpty())
-        QTimer::singleShot(scene.settling, &application,
-                           [&] { application.exit(window->grabWindow().save(file) ? 0 : 1); });
+        takeWhenReady(application, scene, stage, file);
     return application.exec();
 }
 
@@ -139,8 +157,9 @@ int main(int argc, char** argv) {
         QApplication::setPalette(QPalette(QColor(0x2b, 0x2d, 0x30)));
     if (parser.isSet(u"rtl"_s))
         QApplication::setLayoutDirection(Qt::RightToLeft);
+    // As a desktop says it: by a font that is installed.
     if (parser.isSet(u"font-size"_s)) {
-        QFont font = QApplication::font();
+        QFont font(u"Inter"_s);
         font.setPointSizeF(parser.value(u"font-size"_s).toDouble());
         QApplication::setFont(font);
     }
