@@ -20,7 +20,7 @@ constexpr double highContrast = 20;
 constexpr int defaultBodySize = 13;
 constexpr double pixelsPerPoint = 96.0 / 72;
 constexpr double smallestPoints = 9;
-constexpr double largestPoints = 12;
+constexpr double largestPoints = 14.5;
 
 double linear(double channel) {
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);

@@ -109,13 +109,14 @@ FocusScope {
     SheetSurface {
         id: panel
 
+        readonly property int highest: Theme.scaled(sheet.sheetHeight)
         readonly property int edge: sheet.height < 720 ? 12 : 24
         readonly property real needed: header.height + bodySlot.childrenRect.height + Theme.s4 + pinned.height + footer.height
 
         anchors.horizontalCenter: parent.horizontalCenter
         y: Math.round((parent.height - height) / 2) + rise
-        width: Math.min(sheet.sheetWidth, parent.width - 2 * edge)
-        height: Math.min(sheet.fits ? needed : sheet.sheetHeight, sheet.sheetHeight, parent.height - 2 * edge)
+        width: Math.min(Theme.scaled(sheet.sheetWidth), parent.width - 2 * edge)
+        height: Math.min(sheet.fits ? needed : highest, highest, parent.height - 2 * edge)
 
         property real rise: 0
 

@@ -178,6 +178,8 @@ EditorRow {
                 style: Theme.caption
                 color: Theme.text2
                 wrapMode: Text.Wrap
+                maximumLineCount: 2
+                elide: Text.ElideRight
             }
         }
     }

@@ -6,7 +6,7 @@ import Quillon
 Menu {
     id: menu
 
-    implicitWidth: 250
+    implicitWidth: Math.max(250, Math.min(Theme.scaled(320), contentWidthOfItems + leftPadding + rightPadding))
 
     Menu {
         id: timings

@@ -9,7 +9,7 @@ Item {
     readonly property bool isBusyElsewhere: App.sheets.current !== "" || onboarding.active || App.folders.question.isOpen
     readonly property bool buttonsAtStart: Desktop.hasButtonsAtStart
     readonly property bool chatIsOpen: App.chat.isOpen
-    readonly property bool chatLiesOver: chatIsOpen && width < 960
+    readonly property bool chatLiesOver: chatIsOpen && (width < 960 || width - sidebar.width - chat.fullWidth < 400)
     /// What the panel takes of the page at once: its rules are wrapped anew when the panel opens, and not
     /// for each frame in which it slides into its place.
     readonly property real chatRoom: chatIsOpen && !chatLiesOver ? chat.fullWidth : 0
