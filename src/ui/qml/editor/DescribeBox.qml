@@ -85,7 +85,7 @@ Rectangle {
 
         Line {
             visible: box.dobbin.isBusy
-            iconName: "help-about"
+            glyph: "horseshoe"
             text: qsTr("Dobbin is thinking")
             tint: Theme.dobbin
 

@@ -53,7 +53,7 @@ T.ItemDelegate {
             anchors.left: parent.left
             anchors.leftMargin: 58
             anchors.verticalCenter: parent.verticalCenter
-            width: 224
+            width: row.ruleName === "" ? parent.width - 72 : 224
             text: row.fileName
             style: Theme.bodyMedium
             elide: Text.ElideMiddle

@@ -71,6 +71,7 @@ Sheet {
 
             Label {
                 Layout.preferredWidth: 182
+                visible: App.preview.fate === 0
                 text: qsTr("Rule")
                 style: Theme.caption
                 color: Theme.text2
@@ -78,6 +79,7 @@ Sheet {
 
             Label {
                 Layout.fillWidth: true
+                visible: App.preview.fate === 0
                 text: qsTr("What happens")
                 style: Theme.caption
                 color: Theme.text2
