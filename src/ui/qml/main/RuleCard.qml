@@ -65,20 +65,19 @@ T.ItemDelegate {
         ListView.view.showCopies();
     }
 
-    Keys.onReturnPressed: edit()
-    Keys.onEnterPressed: edit()
     Keys.onDeletePressed: App.page.rules.remove(key)
-    Keys.onMenuPressed: openMenu()
     Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? moveBy(-1) : ListView.view.focusRow(index - 1)
     Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? moveBy(1) : ListView.view.focusRow(index + 1)
     Keys.onSpacePressed: App.page.rules.setEnabled(key, !isEnabled)
     Keys.onPressed: event => {
         event.accepted = true;
-        if (event.key === Qt.Key_Home)
+        if (Keystroke.isEnter(event))
+            edit();
+        else if (event.key === Qt.Key_Home)
             ListView.view.focusRow(0);
         else if (event.key === Qt.Key_End)
             ListView.view.focusRow(ListView.view.count - 1);
-        else if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
+        else if (Keystroke.isMenu(event))
             openMenu();
         else if (event.key === Qt.Key_D && event.modifiers === Qt.ControlModifier)
             App.page.rules.duplicate(key);
@@ -86,6 +85,11 @@ T.ItemDelegate {
             openCopyMenu();
         else
             event.accepted = false;
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => card.ListView.view.openMenuAt(card, eventPoint.position)
     }
 
     background: Card {
@@ -109,6 +113,11 @@ T.ItemDelegate {
         Accessible.name: qsTr("Move %1").arg(card.name)
         Accessible.description: qsTr("Alt+Up and Alt+Down")
         Accessible.focusable: true
+        Accessible.onPressAction: card.openMenu()
+        // In the menu it can be moved, too; the card's own keys would switch or open the rule.
+        Keys.onSpacePressed: card.openMenu()
+        Keys.onReturnPressed: card.openMenu()
+        Keys.onEnterPressed: card.openMenu()
 
         readonly property bool visualFocus: activeFocus
         readonly property int radius: 4

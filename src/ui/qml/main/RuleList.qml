@@ -48,6 +48,11 @@ ListView {
         menu.popup(anchor, anchor.width - menu.implicitWidth, anchor.height + 2);
     }
 
+    function openMenuAt(card, place) {
+        menu.card = card;
+        menu.popup(card, place.x, place.y);
+    }
+
     /// Once the menu is open.
     function showCopies() {
         menu.showCopies();

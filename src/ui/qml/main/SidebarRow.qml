@@ -54,9 +54,8 @@ T.ItemDelegate {
     Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? moveBy(-1) : ListView.view.go(index - 1)
     Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? moveBy(1) : ListView.view.go(index + 1)
     Keys.onDeletePressed: App.folders.remove(key)
-    Keys.onMenuPressed: openMenu()
     Keys.onPressed: event => {
-        const isMenu = event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
+        const isMenu = Keystroke.isMenu(event);
         event.accepted = isMenu || event.key === Qt.Key_Home || event.key === Qt.Key_End;
         if (isMenu)
             openMenu();
