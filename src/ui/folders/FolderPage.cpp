@@ -60,8 +60,7 @@ QString FolderPage::name() const {
 }
 
 int FolderPage::tint() const {
-    return folder() ? lookOf(*folder(), std::size_t(folder() - around_.store.folders().data())).tint
-                    : 0;
+    return folder() ? lookOf(*folder(), around_.store.folders()).tint : 0;
 }
 
 QString FolderPage::symbol() const {

@@ -2,7 +2,6 @@
 
 #include "model/Uuid.h"
 #include "ui/CountTexts.h"
-#include "ui/FolderLook.h"
 #include "ui/ProgressRelay.h"
 #include "ui/UndoTexts.h"
 
@@ -53,10 +52,8 @@ void CleanupModel::open(const QString& folderId) {
 }
 
 void CleanupModel::show(const WatchedFolder& folder) {
-    const FolderLook looks = lookOf(folder, std::size_t(&folder - around_.store.folders().data()));
+    look_ = lookOf(folder, around_.store.folders());
     folder_ = folder;
-    tint_ = looks.tint;
-    symbol_ = looks.symbol;
     result_ = {};
     resultRows_.setRows({});
     hasKept_ = false;

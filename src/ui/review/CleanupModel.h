@@ -2,6 +2,7 @@
 
 #include "platform/FileManager.h"
 #include "store/AppStore.h"
+#include "ui/FolderLook.h"
 #include "ui/Sheets.h"
 #include "ui/Toasts.h"
 #include "ui/review/CleanupResult.h"
@@ -84,8 +85,8 @@ public:
     /// "looking", "failed", "review", "tidying", "result", "undoing", or "" when there is none.
     [[nodiscard]] QString state() const;
     [[nodiscard]] QString folderName() const { return folder_.name(); }
-    [[nodiscard]] int tint() const { return tint_; }
-    [[nodiscard]] QString symbol() const { return symbol_; }
+    [[nodiscard]] int tint() const { return look_.tint; }
+    [[nodiscard]] QString symbol() const { return look_.symbol; }
     [[nodiscard]] QAbstractItemModel* recipes() { return &review_.recipes(); }
     [[nodiscard]] QAbstractItemModel* files() { return &review_.files(); }
     [[nodiscard]] QString filterText() const { return review_.filterText(); }
@@ -138,8 +139,7 @@ private:
     Surroundings around_;
     State state_ = State::closed;
     WatchedFolder folder_;
-    int tint_ = 0;
-    QString symbol_;
+    FolderLook look_;
     CleanupReview review_;
 
     QUuid batchID_;

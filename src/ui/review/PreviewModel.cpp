@@ -4,7 +4,6 @@
 #include "ui/ActionIcon.h"
 #include "ui/CountTexts.h"
 #include "ui/FileKindWord.h"
-#include "ui/FolderLook.h"
 
 #include <algorithm>
 #include <utility>
@@ -83,11 +82,8 @@ void PreviewModel::open(const QString& folderId) {
     around_.sheets.open(sheetName);
     if (around_.sheets.current() != sheetName)
         return;
-    const auto& all = around_.store.folders();
-    const FolderLook looks = lookOf(*folder, std::size_t(folder - all.data()));
+    look_ = lookOf(*folder, around_.store.folders());
     folder_ = *folder;
-    tint_ = looks.tint;
-    symbol_ = looks.symbol;
     fate_ = FileFate::changed;
     filter_.clear();
     expected_ = 0;

@@ -4,6 +4,7 @@
 #include "platform/Background.h"
 #include "platform/Timers.h"
 #include "store/AppStore.h"
+#include "ui/FolderLook.h"
 #include "ui/LatestWork.h"
 #include "ui/Sheets.h"
 #include "ui/review/RunForecast.h"
@@ -53,8 +54,8 @@ public:
 
     [[nodiscard]] QString folderID() const;
     [[nodiscard]] QString title() const;
-    [[nodiscard]] int tint() const { return tint_; }
-    [[nodiscard]] QString symbol() const { return symbol_; }
+    [[nodiscard]] int tint() const { return look_.tint; }
+    [[nodiscard]] QString symbol() const { return look_.symbol; }
     /// For long enough to say so.
     [[nodiscard]] bool isLooking() const { return state_ == State::looking; }
     [[nodiscard]] bool hasFailed() const { return state_ == State::failed; }
@@ -93,8 +94,7 @@ private:
     Surroundings around_;
     State state_ = State::closed;
     WatchedFolder folder_;
-    int tint_ = 0;
-    QString symbol_;
+    FolderLook look_;
     std::size_t expected_ = 0; ///< files, as last counted; 0 when not known yet
     std::shared_ptr<const RunForecast> forecast_ = std::make_shared<const RunForecast>();
     FileFate fate_ = FileFate::changed;
