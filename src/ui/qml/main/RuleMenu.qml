@@ -10,7 +10,7 @@ Menu {
     property Item card
     readonly property string key: card ? card.key : ""
 
-    implicitWidth: 220
+    implicitWidth: Math.max(220, contentWidthOfItems + leftPadding + rightPadding)
 
     function showCopies() {
         currentIndex = 2;
