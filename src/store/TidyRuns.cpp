@@ -225,8 +225,11 @@ void TidyRuns::notify(const Run& run) const {
 
 void TidyRuns::retryLater(const Run& run) {
     const bool pausedMeanwhile = core_.state().isPaused && !run.beganPaused;
-    // A stalled download that goes on is a change, and a change is a reason to look.
-    if (run.report.deferred > run.report.stalled && !pausedMeanwhile && !core_.isAtRest())
+    // A stalled download that goes on is a change, and a change is a reason to look. That the disk
+    // has room again tells nobody.
+    const bool isUnfinished =
+        run.report.deferred > run.report.stalled || run.report.run.stopped.has_value();
+    if (isUnfinished && !pausedMeanwhile && !core_.isAtRest())
         retries_.schedule(run.folder.id);
     else
         retries_.cancel(run.folder.id);

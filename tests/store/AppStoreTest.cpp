@@ -1,5 +1,6 @@
 #include "model/Uuid.h"
 #include "support/AppStoreBench.h"
+#include "support/FullDisk.h"
 #include "support/PrintQt.h"
 
 #include <thread>
@@ -278,6 +279,20 @@ TEST(AppStore, triesAFailedSaveAgainEveryMinuteAndWithTheNextChange) {
     bench.store->setSymbol(u"tray"_s, folderID);
     EXPECT_FALSE(bench.store->lastSaveError());
     EXPECT_EQ(bench.saved().folders, bench.store->folders());
+}
+
+TEST(AppStore, filesWhatItCouldntFileForWantOfRoom) {
+    AppStoreBench bench;
+    const QUuid folderID = bench.addFolder("in");
+    bench.addRule(bench.mover(u"pdf"_s, "out"), folderID);
+    bench.disk.machine.write("in/a.pdf", "a");
+    {
+        const testing::FullDisk full;
+        bench.runs([&] { bench.store->runRules(folderID); });
+    }
+    EXPECT_TRUE(bench.disk.machine.tree().contains("in/a.pdf"));
+    EXPECT_EQ(bench.runs([&] { bench.pass(4s); }), 1U);
+    EXPECT_TRUE(bench.disk.machine.tree().contains("out/a.pdf"));
 }
 
 TEST(AppStore, exportsRulesAndImportsThemUnderFreshIds) {
