@@ -184,11 +184,18 @@ def chat(programs, is_mouse):
 
 
 def missing_folder(programs, is_mouse):
-    """A folder that was moved away is found again."""
+    """A folder that was moved away is found again, after it was nearly given up."""
     with Visit(programs, is_mouse, folders=["Downloads"], rules=[("Downloads", *PDF)]) as visit:
         me = visit.me
         visit.home("Downloads").rename(visit.home("Incoming"))
         me.see("alert message", "Downloads can’t be found", patience=20)
+        if is_mouse:
+            me.click("push button", "More for Downloads")
+        else:
+            me.press("alt+Return")
+        me.choose_item("Remove Downloads…")
+        me.see("dialog", "Stop watching Downloads?")
+        me.push("Cancel")
         me.push("Locate…")
         me.choose_path(visit.home("Incoming"))
         visit.must_hold(lambda: visit.rules_of("Incoming") == ["File PDFs"], "the folder's return")
