@@ -2678,6 +2678,10 @@
         <source>Edit rule</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>and %L1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>quillon::RuleListModel</name>

@@ -25,6 +25,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QStringView arrow = u" → ";
+/// So that what is edited keeps its room above them.
+constexpr qsizetype warningsShown = 4;
 
 RulePlace placeOf(const QUuid& folderID, const AppStore& store) {
     RulePlace place;
@@ -244,7 +246,13 @@ QString RuleEditor::sentence() const {
 }
 
 QStringList RuleEditor::warnings() const {
-    return validationWarnings(draft_) + valueWarnings(draft_);
+    QStringList told = validationWarnings(draft_) + valueWarnings(draft_);
+    told.removeDuplicates();
+    if (const qsizetype more = told.size() - warningsShown; more > 0) {
+        told.resize(warningsShown);
+        told.append(tr("and %L1 more").arg(more));
+    }
+    return told;
 }
 
 void RuleEditor::draftEdited() {

@@ -33,6 +33,8 @@ Rectangle {
             width: parent.width
             condition: bar.editor.conditionText
             action: bar.editor.actionText
+            maximumLineCount: 4
+            elide: Text.ElideRight
         }
 
         Repeater {
