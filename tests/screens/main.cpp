@@ -119,6 +119,7 @@ int main(int argc, char** argv) {
     parser.addPositionalArgument(u"scene"_s, u"which, or \"list\""_s);
     parser.addPositionalArgument(u"file"_s, u"where to"_s);
     parser.addOptions({{u"dark"_s, u"in the dark"_s},
+                       {u"contrast"_s, u"in black and white"_s},
                        {u"rtl"_s, u"from right to left"_s},
                        {u"stay"_s, u"show it until it is closed"_s},
                        {u"size"_s, u"of the window"_s, u"WxH"_s},
@@ -142,8 +143,8 @@ int main(int argc, char** argv) {
     if (scene == all.end() || named.size() != (stays ? 1 : 2)) {
         std::fprintf(
             stderr,
-            "usage: screens list | SCENE --stay | SCENE FILE.png [--dark] [--rtl] [--size WxH] "
-            "[--font-size POINTS]\n");
+            "usage: screens list | SCENE --stay | SCENE FILE.png [--dark] [--contrast] [--rtl] "
+            "[--size WxH] [--font-size POINTS]\n");
         return 2;
     }
     if (!stays)
@@ -155,6 +156,10 @@ int main(int argc, char** argv) {
     installTranslations(application);
     if (parser.isSet(u"dark"_s))
         QApplication::setPalette(QPalette(QColor(0x2b, 0x2d, 0x30)));
+    if (parser.isSet(u"contrast"_s)) {
+        const bool isDark = parser.isSet(u"dark"_s);
+        QApplication::setPalette(QPalette(isDark ? Qt::black : Qt::white));
+    }
     if (parser.isSet(u"rtl"_s))
         QApplication::setLayoutDirection(Qt::RightToLeft);
     // As a desktop says it: by a font that is installed.
