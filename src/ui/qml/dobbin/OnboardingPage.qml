@@ -57,6 +57,7 @@ FocusScope {
 
     ScrollBar {
         flickable: flick
+        anchors.rightMargin: -Theme.s4
     }
 
     Item {
