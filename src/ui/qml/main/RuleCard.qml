@@ -17,8 +17,6 @@ T.ItemDelegate {
     required property bool isEnabled
     required property string description
     property bool isCarried: false
-    /// Its rule is gone, and it waits for another: then it can't have the focus.
-    property bool isPooled: false
     readonly property int radius: Theme.rCard
     readonly property bool isCurrent: ListView.isCurrentItem || ListView.view !== null && ListView.view.currentIndex < 0 && index === 0
     readonly property bool focusWithin: activeFocus || grip.activeFocus || more.activeFocus || toggle.activeFocus
@@ -32,7 +30,6 @@ T.ItemDelegate {
     height: Math.max(column.y + column.implicitHeight + Theme.s3 + 1, Theme.scaled(62))
     focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
-    enabled: !isPooled
     opacity: isCarried ? 0.35 : 1
 
     Accessible.role: Accessible.ListItem
@@ -44,8 +41,13 @@ T.ItemDelegate {
     onClicked: edit()
     onActiveFocusChanged: if (activeFocus) ListView.view.currentIndex = index
 
-    ListView.onPooled: isPooled = true
-    ListView.onReused: isPooled = false
+    // Its rule is gone, and it waits for another: the list says where the focus goes on.
+    ListView.onPooled: {
+        if (!focusWithin)
+            return;
+        focus = false;
+        ListView.view.forceActiveFocus(Qt.OtherFocusReason);
+    }
 
     function edit() {
         App.editor.edit(App.page.folderID, key);
