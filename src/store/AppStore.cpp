@@ -512,10 +512,13 @@ void AppStore::refreshAccess() {
     }
     state_->isProbing = true;
     const auto found = std::make_shared<QHash<QUuid, FolderAccess>>();
+    std::vector<std::pair<QUuid, std::string>> paths;
+    for (const WatchedFolder& folder : folders())
+        paths.emplace_back(folder.id, folder.path.toStdString());
     state_->core.inBackground(
-        [found, all = folders(), &fileSystem = state_->core.around.platform.fileSystem] {
-            for (const WatchedFolder& folder : all)
-                found->insert(folder.id, probeAccess(fileSystem, folder.path.toStdString()));
+        [found, paths = std::move(paths), &fileSystem = state_->core.around.platform.fileSystem] {
+            for (const auto& [id, path] : paths)
+                found->insert(id, probeAccess(fileSystem, path));
         },
         [this, found] {
             state_->isProbing = false;

@@ -28,8 +28,10 @@ RuleListModel::RuleListModel(AppStore& store, Toasts& toasts, QObject* parent)
 void RuleListModel::show(const QUuid& folderID) {
     folderID_ = folderID;
     const WatchedFolder* const folder = store_.folder(folderID);
+    const std::vector<Rule> none;
+    const std::vector<Rule>& rules = folder ? folder->rules : none;
     std::vector<RuleRow> next;
-    for (const Rule& rule : folder ? folder->rules : std::vector<Rule>()) {
+    for (const Rule& rule : rules) {
         const QString sentence = summary(rule);
         RuleRow row{.key = uuidText(rule.id),
                     .name = rule.name,
@@ -41,7 +43,7 @@ void RuleListModel::show(const QUuid& folderID) {
                     .asksDobbin = rule.needsDobbin(),
                     .isEnabled = rule.isEnabled};
         const QString place =
-            tr("Rule %1 of %2", "of a list").arg(next.size() + 1).arg(folder->rules.size());
+            tr("Rule %1 of %2", "of a list").arg(next.size() + 1).arg(rules.size());
         QStringList facts{sentence, (rule.isEnabled ? tr("%1, on", "“Rule 2 of 4”, switched on")
                                                     : tr("%1, off", "“Rule 2 of 4”, switched off"))
                                         .arg(place)};
