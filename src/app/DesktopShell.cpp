@@ -101,6 +101,13 @@ void DesktopShell::applyPolicy() {
     main_.setPolicy(policy());
     if (policy().showsDockIcon || main_.isShown())
         showMainWindow();
+    // Nor does the one in which that was switched.
+    if (!settingsWindow_ || !settingsWindow_->isVisible())
+        return;
+    settingsWindow_->raise();
+    settingsWindow_->requestActivate();
+    if (QGuiApplication::platformName() == u"xcb")
+        around_.desktop.windowHints().bringToFront(settingsWindow_->winId());
 }
 
 /// It opens itself once it is there.
