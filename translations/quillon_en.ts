@@ -321,14 +321,6 @@
         <source>Looking through %1…</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Quillon can’t read this folder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Try Again</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>CleanupSheet</name>
@@ -919,6 +911,17 @@
     </message>
 </context>
 <context>
+    <name>LookState</name>
+    <message>
+        <source>Quillon can’t read this folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>NoFolders</name>
     <message>
         <source>Drop a folder here</source>
@@ -1274,14 +1277,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Quillon can’t read this folder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Try Again</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Files that changed in the last few seconds are left to settle first.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1489,6 +1484,17 @@
     </message>
     <message>
         <source>Del</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RuleRemoval</name>
+    <message>
+        <source>“%1” deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2031,43 +2037,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Counting…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is already tidy. Nothing matches these recipes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No files match.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tick a recipe to see its files.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is already tidy. Nothing matches the recipes that are ticked.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No files ticked</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 ticked · %2</source>
-        <comment>a number of files, their size</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Unpacking archives can’t be undone.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>You can undo all of it afterwards.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Stopping…</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2102,6 +2071,46 @@
     <message>
         <source>%1 added to %2.</source>
         <comment>a number of rules, a folder</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>quillon::CleanupReview</name>
+    <message>
+        <source>Counting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is already tidy. Nothing matches these recipes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No files match.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick a recipe to see its files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is already tidy. Nothing matches the recipes that are ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No files ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ticked · %2</source>
+        <comment>a number of files, their size</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unpacking archives can’t be undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You can undo all of it afterwards.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2662,19 +2671,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>“%1” deleted</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>New rule</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Edit rule</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %L1 more</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2693,14 +2698,6 @@
     <message>
         <source>%1, off</source>
         <comment>“Rule 2 of 4”, switched off</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>“%1” deleted</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Undo</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -173,7 +173,7 @@ int runDesktopApplication(int argc, char** argv) {
     QApplication application(argc, argv);
     nameApplication();
     installTranslations(application);
-    Services services(currentUserFolders());
+    Services services(currentUserFolders(), SaidIn::window);
     const int code = run(services, sinceStart);
     services.close();
     return code;

@@ -101,6 +101,13 @@ void DesktopShell::applyPolicy() {
     main_.setPolicy(policy());
     if (policy().showsDockIcon || main_.isShown())
         showMainWindow();
+    // Nor does the one in which that was switched.
+    if (!settingsWindow_ || !settingsWindow_->isVisible())
+        return;
+    settingsWindow_->raise();
+    settingsWindow_->requestActivate();
+    if (QGuiApplication::platformName() == u"xcb")
+        around_.desktop.windowHints().bringToFront(settingsWindow_->winId());
 }
 
 /// It opens itself once it is there.
@@ -111,6 +118,7 @@ void DesktopShell::showSettings() {
     settingsWindow_ = makeWindow(around_.engine, u"SettingsWindow"_s);
     settingsWindow_->setProperty("isSquare", QGuiApplication::platformName() == u"xcb" &&
                                                  !around_.desktop.windowHints().isComposited());
+    main_.centre(*settingsWindow_);
     settingsWindow_->show();
     settingsWindow_->requestActivate();
 }

@@ -5,8 +5,7 @@ namespace {
 
 void open(QFileDialog& dialog, const std::string& start, const FileChooser::Chosen& chosen) {
     dialog.setAttribute(Qt::WA_DeleteOnClose);
-    if (!start.empty())
-        dialog.setDirectory(QString::fromStdString(start));
+    dialog.setDirectory(start.empty() ? QDir::homePath() : QString::fromStdString(start));
     QObject::connect(&dialog, &QFileDialog::finished, &dialog, [&dialog, chosen](int result) {
         const QStringList files = dialog.selectedFiles();
         chosen(result == QDialog::Accepted && !files.isEmpty()

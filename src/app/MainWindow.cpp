@@ -77,6 +77,13 @@ void MainWindow::saveFrame() {
         std::ignore = settings_.setValue(frameKey, text);
 }
 
+void MainWindow::centre(QWindow& other) const {
+    QRect place(QPoint(), other.size());
+    place.moveCenter(isShown() ? window_->geometry().center()
+                               : window_->screen()->availableGeometry().center());
+    other.setPosition(reachable(place, freeScreens()).topLeft());
+}
+
 void MainWindow::show(const std::string& activationToken) {
     if (!activationToken.empty())
         qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(activationToken));

@@ -32,6 +32,8 @@ public:
     void close();
     void setPolicy(const DockPolicy& policy);
     void saveFrame();
+    /// Another window in the middle of this one; of its screen while it can't be seen.
+    void centre(QWindow& other) const;
 
 Q_SIGNALS:
     void quitRequested();

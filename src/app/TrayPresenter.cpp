@@ -2,6 +2,7 @@
 
 #include "app/TrayGlyph.h"
 
+#include <QGuiApplication>
 #include <QPoint>
 
 namespace quillon {
@@ -32,7 +33,8 @@ TrayLook TrayPresenter::look() const {
     return {.pictures = trayGlyph(panelTextColor(around_.desktopNames, around_.desktop.isDark()),
                                   needsAttention),
             .toolTip = state,
-            .needsAttention = needsAttention};
+            .needsAttention = needsAttention,
+            .isRightToLeft = QGuiApplication::isRightToLeft()};
 }
 
 std::vector<TrayMenuItem> TrayPresenter::menu() {

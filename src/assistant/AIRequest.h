@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <optional>
+#include <stop_token>
 
 namespace quillon {
 
@@ -19,6 +20,9 @@ struct AIRequest {
     /// Without one the answer is text.
     std::optional<QByteArray> schema = {};
     bool cheap = false; ///< many and simple, like judging files: the cheaper model will do
+    /// Stopped, the request fails soon, and the model works on it no longer. To be stopped on the
+    /// thread that sent it.
+    std::stop_token stop = {};
 };
 
 } // namespace quillon

@@ -84,7 +84,16 @@ DobbinChat::DobbinChat(Surroundings surroundings, std::string path, QObject* par
 
 DobbinChat::~DobbinChat() {
     life_.reset();
+    dropThought();
+}
+
+/// What is sent for it fails soon after, and finds that nobody waits.
+void DobbinChat::dropThought() {
+    if (!thought_)
+        return;
+    const std::stop_source asking = *thought_;
     thought_.reset();
+    asking.request_stop();
 }
 
 bool DobbinChat::isOpen() const {
@@ -126,7 +135,7 @@ bool DobbinChat::ask(const QString& question, std::function<void(const ChatTurn&
 
 void DobbinChat::stop() {
     const std::weak_ptr<const void> life = life_;
-    thought_.reset();
+    dropThought();
     for (const Question& question : std::exchange(questions_, {})) {
         const ChatTurn answer{.text = u"Stopped before there was an answer."_s,
                               .isError = true,
@@ -144,7 +153,7 @@ void DobbinChat::stop() {
 }
 
 QCoro::Task<> DobbinChat::think() {
-    thought_ = std::make_shared<int>();
+    thought_ = std::make_shared<std::stop_source>();
     const std::weak_ptr<const void> life = thought_;
     while (!questions_.empty()) {
         const Question question = questions_.front();
@@ -199,6 +208,7 @@ QCoro::Task<std::optional<ChatTurn>> DobbinChat::answerOfModel(QUuid questionID,
     AIRequest request{.system = systemPrompt(now),
                       .messages = earlierMessages(turns_, questionID, room.earlier)};
     request.messages.append({.role = AIMessage::Role::user, .text = material->message});
+    request.stop = thought_->get_token();
     const Expected<QString> answer = co_await around_.assistant().send(std::move(request));
     if (life.expired())
         co_return std::nullopt;
@@ -224,7 +234,8 @@ DobbinChat::suggestedChanges(std::shared_ptr<Material> material, ChatTurn answer
         AIRequest request{.system = extractionPrompt(),
                           .messages = {{.role = AIMessage::Role::user,
                                         .text = extractionMessage(material->message, answer.text)}},
-                          .schema = actionsOnlySchema()};
+                          .schema = actionsOnlySchema(),
+                          .stop = thought_->get_token()};
         const Expected<QString> list = co_await around_.assistant().send(std::move(request));
         if (life.expired())
             co_return actions;

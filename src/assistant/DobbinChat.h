@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -65,7 +66,8 @@ public:
     /// asked.
     bool ask(const QString& question, std::function<void(const ChatTurn&)> answered = {});
 
-    /// Gives up on every question that has no answer yet; each gets a turn that says so.
+    /// Gives up on every question that has no answer yet; each gets a turn that says so. The model
+    /// is not kept at it.
     void stop();
 
     /// Carries out a change that a turn offers, marks it as done and says what has happened. Fails
@@ -105,6 +107,7 @@ private:
     void load();
     void save();
     void setThinking(bool isThinking);
+    void dropThought();
 
     Surroundings around_;
     ChatFile file_;
@@ -115,8 +118,8 @@ private:
     std::deque<Question> questions_; ///< the first is being answered
     bool isThinking_ = false;
     int focusRequest_ = 0;
-    std::shared_ptr<const void> life_;    ///< those who wait look whether it is still there
-    std::shared_ptr<const void> thought_; ///< gone once nobody waits for what is being thought
+    std::shared_ptr<const void> life_;          ///< those who wait look whether it is still there
+    std::shared_ptr<std::stop_source> thought_; ///< gone once nobody waits for what is thought
 };
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 #include "cli/JsonOutput.h"
 #include "cli/LineBuffer.h"
-#include "cli/StoreFailure.h"
+#include "cli/OpenStore.h"
 #include "cli/Verbs.h"
 #include "store/Sentences.h"
 
@@ -92,11 +92,9 @@ void printText(const StoreSnapshot& view, const Console& console) {
 
 ExitCode folderListCommand(const PlainOptions& options, const Console& console,
                            Services& services) {
-    const auto view = services.viewStore();
+    const auto view = viewStoreFor(console, services);
     if (!view)
-        return sayStoreFailure(view.error(), console);
-    for (const QString& warning : view->warnings)
-        console.say(warning);
+        return view.error();
     if (options.json)
         printJson(*view, console.out);
     else

@@ -1,18 +1,16 @@
 #include "cli/FolderPlace.h"
 
 #include "cli/NamedFolder.h"
-#include "cli/StoreFailure.h"
+#include "cli/OpenStore.h"
 #include "model/Uuid.h"
 
 namespace quillon {
 
 std::expected<FolderPlace, ExitCode> folderPlaceAt(const std::string& path, const Console& console,
                                                    Services& services) {
-    const auto view = services.viewStore();
+    const auto view = viewStoreFor(console, services);
     if (!view)
-        return std::unexpected(sayStoreFailure(view.error(), console));
-    for (const QString& warning : view->warnings)
-        console.say(warning);
+        return std::unexpected(view.error());
     const PersistedState& state = view->state;
     const auto watched = watchedFolderAt(path, state.folders, console, services);
     const auto folder = watched ? watched : plainFolderAt(path, console, services);

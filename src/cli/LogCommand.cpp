@@ -2,7 +2,7 @@
 #include "cli/LineBuffer.h"
 #include "cli/LogLines.h"
 #include "cli/NamedFolder.h"
-#include "cli/StoreFailure.h"
+#include "cli/OpenStore.h"
 #include "cli/TimeSpan.h"
 #include "cli/Verbs.h"
 
@@ -61,11 +61,9 @@ ExitCode logCommand(const LogOptions& options, const Console& console, Services&
     const auto span = timeSpan(options.since, options.before, services.platform().clock.now());
     if (!span)
         return sayRefusal(span.error(), console);
-    const auto view = services.viewStore();
+    const auto view = viewStoreFor(console, services);
     if (!view)
-        return sayStoreFailure(view.error(), console);
-    for (const QString& warning : view->warnings)
-        console.say(warning);
+        return view.error();
     Chosen<std::vector<LogEntry>> found = view->state.logs;
     if (!options.folder.empty())
         found = ofFolder(std::move(*found), options.folder, view->state.folders, console, services);

@@ -4,7 +4,6 @@
 #include "cli/NamedFolder.h"
 #include "cli/OpenStore.h"
 #include "cli/RunOutput.h"
-#include "cli/StoreFailure.h"
 
 #include <algorithm>
 
@@ -24,11 +23,9 @@ std::expected<OpenFolder, ExitCode> openFolder(const std::string& path, const Co
 
 std::expected<WatchedFolder, ExitCode> viewFolder(const std::string& path, const Console& console,
                                                   Services& services) {
-    const auto view = services.viewStore();
+    const auto view = viewStoreFor(console, services);
     if (!view)
-        return std::unexpected(sayStoreFailure(view.error(), console));
-    for (const QString& warning : view->warnings)
-        console.say(warning);
+        return std::unexpected(view.error());
     auto folder = watchedFolderAt(path, view->state.folders, console, services);
     if (!folder)
         return std::unexpected(sayRefusal(folder.error(), console));

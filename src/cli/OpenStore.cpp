@@ -20,6 +20,15 @@ std::expected<StoreAccess, ExitCode> openStoreFor(const Console& console, Servic
     return *store;
 }
 
+std::expected<StoreSnapshot, ExitCode> viewStoreFor(const Console& console, Services& services) {
+    auto view = services.viewStore();
+    if (!view)
+        return std::unexpected(sayStoreFailure(view.error(), console));
+    for (const QString& warning : view->warnings)
+        console.say(warning);
+    return *std::move(view);
+}
+
 ExitCode sayWhetherSaved(const StoreAccess& store, const Console& console) {
     const auto error = store.call([](AppStore& appStore) { return appStore.lastSaveError(); });
     if (!error)

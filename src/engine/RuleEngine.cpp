@@ -1,12 +1,11 @@
 #include "engine/RuleEngine.h"
 
+#include "engine/ActionForecast.h"
 #include "engine/BatchRun.h"
 #include "engine/FirstMatch.h"
 #include "engine/Packages.h"
 #include "platform/CloudFiles.h"
 #include "platform/FileNames.h"
-
-#include <QHash>
 
 #include <array>
 
@@ -48,45 +47,6 @@ QString fileName(const ListedFile& file) {
 
 // Files between two reports, enough for every thread to have its share.
 constexpr std::size_t progressStep = 32'768;
-
-/// Says what rules would do to files, one after the other.
-class Describer {
-public:
-    Describer(const Platform& platform, FileJudge& judge, const EngineSettings& settings,
-              const std::string& folder)
-        : platform_(platform)
-        , judge_(judge)
-        , settings_(settings)
-        , folder_(folder)
-        , kinds_(platform.contentTypes) {}
-
-    PreviewItem item(const ListedFile& file, const CompiledRule& rule) {
-        FileFacts facts(platform_, kinds_, folder_, file);
-        const ActionContext context{.platform = platform_,
-                                    .kinds = kinds_,
-                                    .dates = dates_,
-                                    .settings = settings_,
-                                    .path = facts.path(),
-                                    .status = file.status,
-                                    .counter = ++counters_[rule.rule().id],
-                                    .captures = rule.captures(facts),
-                                    .watchedFolder = folder_,
-                                    .smartName = rule.smartName(judge_, facts)};
-        PreviewItem item{.fileName = fileName(file), .ruleName = rule.rule().name, .actions = {}};
-        for (const RuleAction& action : rule.rule().actions)
-            item.actions.append(describeAction(action, context));
-        return item;
-    }
-
-private:
-    const Platform& platform_;
-    FileJudge& judge_;
-    const EngineSettings& settings_;
-    const std::string& folder_;
-    KindClassifier kinds_;
-    DateFormats dates_;
-    QHash<QUuid, unsigned> counters_;
-};
 
 } // namespace
 
@@ -139,14 +99,22 @@ std::size_t RuleEngine::onlineOnlyCount(const WatchedFolder& folder) const {
     }));
 }
 
-Expected<QSet<QString>> RuleEngine::currentKeys(const WatchedFolder& folder) const {
+Expected<QSet<QString>> RuleEngine::currentKeys(const WatchedFolder& folder,
+                                                std::optional<Timestamp> thereAt) const {
     const Expected<Listing> listing = files(folder);
     if (!listing)
         return std::unexpected(listing.error());
+    const Timestamp now = platform_.clock.now();
+    // Whatever is made, moved here or given other contents gets this date, too. One in the future
+    // comes from another clock and tells nothing.
+    const auto cameAfterwards = [&](const FileStatus& status) {
+        return thereAt && status.changed >= *thereAt && status.changed <= now;
+    };
     QSet<QString> keys;
     const std::string path = folderPath(folder);
     for (const ListedFile& file : listing->files)
-        keys.insert(fileKey(joinPath(path, file.path), file.status));
+        if (!cameAfterwards(file.status))
+            keys.insert(fileKey(joinPath(path, file.path), file.status));
     return keys;
 }
 
@@ -171,15 +139,19 @@ std::vector<PreviewItem> RuleEngine::preview(const std::vector<Rule>& rules,
     const MatchSetup matching{platform_, judge_, enabled, ready.folder, platform_.clock.now()};
     const std::vector<const ListedFile*> files = pointers(ready.files);
 
-    Describer describer(platform_, judge_, settings_, ready.folder);
+    ActionForecast forecast(platform_, judge_, settings_, ready.folder);
     std::vector<PreviewItem> items;
     for (std::size_t start = 0; start < files.size(); start += progressStep) {
         const auto part =
             std::span(files).subspan(start, std::min(progressStep, files.size() - start));
         const std::vector<FirstMatch> matches = firstMatches(matching, part);
         for (std::size_t i = 0; i < matches.size(); ++i)
-            if (matches[i].rule)
-                items.push_back(describer.item(*part[i], enabled[*matches[i].rule]));
+            if (matches[i].rule) {
+                const CompiledRule& rule = enabled[*matches[i].rule];
+                items.push_back({.fileName = fileName(*part[i]),
+                                 .ruleName = rule.rule().name,
+                                 .actions = forecast.phrases(*part[i], rule)});
+            }
         if (progress)
             progress(start + part.size(), files.size());
     }

@@ -12,6 +12,7 @@
 #include "platform/Platform.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace quillon {
@@ -41,8 +42,10 @@ public:
     [[nodiscard]] Expected<ReadyFiles> readyFiles(const WatchedFolder& folder) const;
     /// Listed files that are only placeholders of a cloud provider.
     [[nodiscard]] std::size_t onlineOnlyCount(const WatchedFolder& folder) const;
-    /// The keys of every file in the folder now. Fails as files() does.
-    [[nodiscard]] Expected<QSet<QString>> currentKeys(const WatchedFolder& folder) const;
+    /// The keys of every file in the folder now; of those that were there at a moment, as far as
+    /// their dates tell, when there is one. Fails as files() does.
+    [[nodiscard]] Expected<QSet<QString>> currentKeys(const WatchedFolder& folder,
+                                                      std::optional<Timestamp> thereAt = {}) const;
 
     [[nodiscard]] MatchProbe probe(const Rule& rule, const ReadyFiles& ready) const;
     [[nodiscard]] std::vector<PreviewItem> preview(const std::vector<Rule>& rules,

@@ -11,6 +11,8 @@ struct Notification {
     QString body;
     /// Called on the event loop's thread when the user chooses "Undo". Empty: no such action.
     std::function<void()> undo = {};
+    /// Called there when the user opens the notification itself, before whoever is told of clicks.
+    std::function<void()> show = {};
 };
 
 /// The desktop's notifications. On the event loop's thread; never blocks.

@@ -21,6 +21,7 @@ struct TrayLook {
     std::vector<TrayPicture> pictures; ///< the same in several sizes
     QString toolTip;
     bool needsAttention = false;
+    bool isRightToLeft = false; ///< its menu; stays as it was at the start
 
     bool operator==(const TrayLook&) const = default;
 };

@@ -50,9 +50,11 @@ std::string homeTrash(const UserFolders& folders) {
 } // namespace
 
 struct Services::Machine {
-    explicit Machine(const UserFolders& userFolders) : folders(userFolders) {}
+    Machine(const UserFolders& userFolders, SaidIn itsWhere)
+        : folders(userFolders), where(itsWhere) {}
 
     UserFolders folders;
+    SaidIn where;
     QObject loop; ///< lives on the event loop's thread
     std::string tag = randomTag();
     LinuxStorage storage;
@@ -86,8 +88,9 @@ struct Services::Assistant {
     AIManager manager;
 
     explicit Assistant(Machine& machine)
-        : manager(machine.settings, keychain, machine.clock,
-                  [&judge = machine.judge] { judge.clearAnswers(); }) {}
+        : manager(
+              machine.settings, keychain, machine.clock,
+              [&judge = machine.judge] { judge.clearAnswers(); }, {}, machine.where) {}
 };
 
 /// What only an open store needs. The conversation goes first, then the store, and the resolver
@@ -126,7 +129,8 @@ struct Services::OpenStore {
                 itsLife) {}
 };
 
-Services::Services(const UserFolders& folders) : machine_(std::make_unique<Machine>(folders)) {}
+Services::Services(const UserFolders& folders, SaidIn where)
+    : machine_(std::make_unique<Machine>(folders, where)) {}
 
 Services::~Services() = default;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "assistant/backends/OnDeviceStatus.h"
 #include "engine/EngineSettings.h"
 #include "engine/RuleEngine.h"
 #include "platform/Background.h"
@@ -26,7 +27,8 @@ class SuggestionMemory;
 /// and destroyed on the thread of the event loop, to be used from any.
 class Services {
 public:
-    explicit Services(const UserFolders& folders);
+    /// `where` is where failures are read.
+    explicit Services(const UserFolders& folders, SaidIn where = SaidIn::terminal);
     ~Services();
 
     [[nodiscard]] const Platform& platform() const;

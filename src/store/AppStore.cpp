@@ -7,6 +7,7 @@
 #include "store/Attention.h"
 #include "store/CleanupRun.h"
 #include "store/FolderList.h"
+#include "store/KnownFiles.h"
 #include "store/RuleEdits.h"
 #include "store/Schedules.h"
 #include "store/Sentences.h"
@@ -14,6 +15,8 @@
 #include "store/TidyRuns.h"
 #include "store/UndoRun.h"
 #include "store/WatchCoordinator.h"
+
+#include <QDateTime>
 
 namespace quillon {
 
@@ -24,6 +27,11 @@ namespace {
 constexpr std::chrono::minutes tickPeriod{1};
 constexpr std::uint64_t largestRuleFile = 64ULL << 20;
 
+QDate localDay(Timestamp moment) {
+    const auto time = std::chrono::floor<std::chrono::milliseconds>(moment).time_since_epoch();
+    return QDateTime::fromMSecsSinceEpoch(time.count()).date();
+}
+
 } // namespace
 
 struct AppStore::State {
@@ -31,7 +39,8 @@ struct AppStore::State {
         : core(store, std::move(opened), surroundings) {}
 
     StoreCore core;
-    TidyRuns runs{core};
+    KnownFiles known{core};
+    TidyRuns runs{core, known};
     std::unique_ptr<WatchCoordinator> coordinator; ///< none for a command
     std::unique_ptr<Timer> scheduleTimer;          ///< likewise
     QHash<QUuid, FolderAccess> folderAccess;
@@ -39,6 +48,7 @@ struct AppStore::State {
     std::optional<QUuid> selectedFolderID;
     std::optional<RuleCopy> lastRuleCopy;
     std::optional<PendingRuleEdit> pendingRuleEdit;
+    QDate day; ///< as it was a minute ago
     bool needsAttention = false;
     bool isProbing = false;
     bool isProbeDue = false;
@@ -74,7 +84,11 @@ void AppStore::startLiving() {
     state_->scheduleTimer = core.around.timers.every(tickPeriod, [this] {
         checkSchedules();
         updateAttention();
+        const QDate today = localDay(state_->core.now());
+        if (std::exchange(state_->day, today) != today)
+            Q_EMIT dayChanged();
     });
+    state_->day = localDay(core.now());
     refreshAccess();
     askQuestions();
 }
@@ -185,6 +199,11 @@ const WatchedFolder* AppStore::folderAt(const QString& path) const {
     return findFolderAt(folders(), path);
 }
 
+bool AppStore::wantsOnlyNewFiles(const QUuid& folderID) const {
+    const WatchedFolder* const known = folder(folderID);
+    return known && (known->onlyNewFiles || state_->known.isFinding(folderID));
+}
+
 const WatchedFolder* AppStore::selectedFolder() const {
     return state_->selectedFolderID ? folder(*state_->selectedFolderID) : nullptr;
 }
@@ -213,9 +232,7 @@ std::optional<QUuid> AppStore::addFolder(const QString& path) {
     const QUuid folderID = state_->core.state().folders.emplace_back(newFolder(path)).id;
     foldersEdited();
     setSelectedFolderID(folderID);
-    syncWatching();
-    refreshAccess();
-    runRules(folderID);
+    arrived(folderID);
     return folderID;
 }
 
@@ -235,14 +252,15 @@ bool AppStore::relocateFolder(const QString& path, const QUuid& folderID) {
     const WatchedFolder* const there = folderAt(path);
     if (!known || (there && there != known))
         return false;
-    const bool countsFiles = known->onlyNewFiles;
-    update(folderID, [&](WatchedFolder& found) { found.path = newFolder(path).path; });
+    WatchedFolder moved = *known;
+    moved.path = newFolder(path).path;
     // Where it was counts for nothing here: what lies in it is known under other paths.
-    if (countsFiles)
-        setOnlyNewFiles(true, folderID);
-    syncWatching();
-    refreshAccess();
-    runRules(folderID);
+    if (wantsOnlyNewFiles(folderID)) {
+        countFrom(moved);
+        return true;
+    }
+    update(folderID, [&](WatchedFolder& found) { found.path = moved.path; });
+    arrived(folderID);
     return true;
 }
 
@@ -263,15 +281,44 @@ void AppStore::setSkipOnlineOnly(bool skip, const QUuid& folderID) {
 }
 
 void AppStore::setOnlyNewFiles(bool onlyNew, const QUuid& folderID) {
-    update(folderID, [&](WatchedFolder& folder) {
-        folder.onlyNewFiles = onlyNew;
-        if (!onlyNew)
+    const WatchedFolder* const known = folder(folderID);
+    if (!known)
+        return;
+    if (onlyNew)
+        return countFrom(*known);
+    state_->known.giveUp(folderID);
+    update(folderID, [](WatchedFolder& found) { found.onlyNewFiles = false; });
+}
+
+/// Has only new files count in the folder as it is given, which is saved together with what is in
+/// it: an end in between must not let the old ones count as new.
+void AppStore::countFrom(const WatchedFolder& folder) {
+    const auto known = [this, id = folder.id, path = folder.path](KnownFiles::Keys keys) {
+        const WatchedFolder* const now = this->folder(id);
+        const WatchedFolder* const there = folderAt(path);
+        if (!now || (there && there != now))
             return;
-        // Listed here and now: while it was done in the background, what arrives would be old. Of a
-        // folder that is away, what earlier runs have seen there still counts.
-        if (const auto keys = state_->core.around.makeEngine({}).currentKeys(folder))
-            state_->core.state().processedFiles.insert(uuidText(folderID), *keys);
-    });
+        const bool hasMoved = now->path != path;
+        update(id, [&](WatchedFolder& found) {
+            found.path = path;
+            found.onlyNewFiles = true;
+            // Of a folder that is away, what earlier runs have seen there still counts.
+            if (keys)
+                state_->core.state().processedFiles.insert(uuidText(id), *std::move(keys));
+        });
+        if (hasMoved)
+            arrived(id);
+    };
+    state_->known.find(folder, known);
+    state_->runs.awaitKnown(folder.id);
+    Q_EMIT foldersChanged();
+}
+
+/// The folder is where it was not before.
+void AppStore::arrived(const QUuid& folderID) {
+    syncWatching();
+    refreshAccess();
+    runRules(folderID);
 }
 
 void AppStore::setTiming(TidyTiming timing, const QUuid& folderID) {
@@ -465,10 +512,13 @@ void AppStore::refreshAccess() {
     }
     state_->isProbing = true;
     const auto found = std::make_shared<QHash<QUuid, FolderAccess>>();
+    std::vector<std::pair<QUuid, std::string>> paths;
+    for (const WatchedFolder& folder : folders())
+        paths.emplace_back(folder.id, folder.path.toStdString());
     state_->core.inBackground(
-        [found, all = folders(), &fileSystem = state_->core.around.platform.fileSystem] {
-            for (const WatchedFolder& folder : all)
-                found->insert(folder.id, probeAccess(fileSystem, folder.path.toStdString()));
+        [found, paths = std::move(paths), &fileSystem = state_->core.around.platform.fileSystem] {
+            for (const auto& [id, path] : paths)
+                found->insert(id, probeAccess(fileSystem, path));
         },
         [this, found] {
             state_->isProbing = false;

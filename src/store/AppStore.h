@@ -85,6 +85,8 @@ public:
     [[nodiscard]] const WatchedFolder* folder(const QUuid& folderID) const;
     [[nodiscard]] const WatchedFolder* folderAt(const QString& path) const;
     [[nodiscard]] const WatchedFolder* selectedFolder() const;
+    /// Whether only new files count in the folder, or will as soon as the others are known.
+    [[nodiscard]] bool wantsOnlyNewFiles(const QUuid& folderID) const;
     /// Some folder is not `ok`, or something went wrong within the last day.
     [[nodiscard]] bool needsAttention() const;
     [[nodiscard]] std::size_t recentErrorCount(const QUuid& folderID) const; ///< last day
@@ -99,13 +101,15 @@ public:
     std::optional<QUuid> addFolder(const QString& path);
     void removeFolder(const QUuid& folderID);
     /// The folder is at that path now: it keeps its id, its rules and its choices, and is tidied
-    /// there. False, and nothing is changed, when it is unknown or another is watched at that path.
+    /// there; one that tidies only new files moves once it is known what is there. False, and
+    /// nothing is changed, when it is unknown or another is watched at that path.
     bool relocateFolder(const QString& path, const QUuid& folderID);
     void setColor(std::optional<int> index, const QUuid& folderID);
     void setSymbol(const QString& symbolName, const QUuid& folderID);
     void setRecursive(bool isRecursive, const QUuid& folderID);
     void setSkipOnlineOnly(bool skip, const QUuid& folderID);
-    /// Switched on, the files that are there now count as handled.
+    /// Switched on, the files that are there now count as handled. They are listed in the
+    /// background: the folder is changed, and tidied again, once they are known.
     void setOnlyNewFiles(bool onlyNew, const QUuid& folderID);
     void setTiming(TidyTiming timing, const QUuid& folderID);
     void setPaused(bool paused);
@@ -197,6 +201,8 @@ Q_SIGNALS:
     void lastSaveErrorChanged();
     void watchWarningsChanged();
     void needsAttentionChanged();
+    /// Of an instance, within a minute of local midnight or of waking up on another day.
+    void dayChanged();
     void runFinished(const quillon::RunReport& report);
     /// After the runs that it leads to have been asked for.
     void questionsResolved(const quillon::QuestionsOutcome& outcome);
@@ -209,6 +215,8 @@ private:
     void updateAttention();
     void compareAccess(const RunReport& report);
     void foldersEdited();
+    void countFrom(const WatchedFolder& folder);
+    void arrived(const QUuid& folderID);
     template <typename Edit>
     bool update(const QUuid& folderID, const Edit& edit);
     template <typename Edit>

@@ -1,5 +1,7 @@
 #include "store/Attention.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace quillon {
@@ -13,6 +15,15 @@ std::size_t recentErrorCount(const std::vector<LogEntry>& logs, const QUuid& fol
     return std::size_t(std::ranges::count_if(logs, [&](const LogEntry& entry) {
         return entry.folderID == folderID && isRecentError(entry, now);
     }));
+}
+
+std::size_t recentFailureCount(const std::vector<LogEntry>& logs, const QUuid& folderID,
+                               Timestamp now) {
+    QSet<QString> files;
+    for (const LogEntry& entry : logs)
+        if (entry.folderID == folderID && isRecentError(entry, now))
+            files.insert(entry.originalPath.value_or(entry.fileName));
+    return std::size_t(files.size());
 }
 
 bool needsAttention(const std::vector<WatchedFolder>& folders,

@@ -18,6 +18,10 @@ namespace quillon {
 [[nodiscard]] std::size_t recentErrorCount(const std::vector<LogEntry>& logs, const QUuid& folderID,
                                            Timestamp now);
 
+/// The files that those of a folder tell of.
+[[nodiscard]] std::size_t recentFailureCount(const std::vector<LogEntry>& logs,
+                                             const QUuid& folderID, Timestamp now);
+
 /// Some folder has been found to be not `ok`, or something went wrong within the last day.
 [[nodiscard]] bool needsAttention(const std::vector<WatchedFolder>& folders,
                                   const QHash<QUuid, FolderAccess>& access,

@@ -53,10 +53,19 @@ struct TidyRuns::Run {
     }
 };
 
-TidyRuns::TidyRuns(StoreCore& core)
-    : core_(core), retries_(core.around.timers, [this](const QUuid& folderID) {
+TidyRuns::TidyRuns(StoreCore& core, KnownFiles& known)
+    : core_(core), known_(known), retries_(core.around.timers, [this](const QUuid& folderID) {
         request(folderID, RunCause::automatic);
     }) {}
+
+std::uint64_t TidyRuns::takeNumber() {
+    unfinished_.emplace(++lastNumber_, std::make_shared<std::atomic<bool>>(false));
+    return lastNumber_;
+}
+
+void TidyRuns::awaitKnown(const QUuid& folderID) {
+    known_.whenKnown(folderID, [this, number = takeNumber()] { finished(number); });
+}
 
 std::uint64_t TidyRuns::request(const QUuid& folderID, RunCause cause) {
     const WatchedFolder* const folder = core_.folder(folderID);
@@ -67,23 +76,26 @@ std::uint64_t TidyRuns::request(const QUuid& folderID, RunCause cause) {
             waiting->second.cause = cause;
         return waiting->second.number;
     }
-    const std::uint64_t number = ++lastNumber_;
-    unfinished_.emplace(number, std::make_shared<std::atomic<bool>>(false));
+    const std::uint64_t number = takeNumber();
     waiting_.emplace(folderID, Request{number, cause});
-    core_.lanes.add(folder->path,
-                    {.start = [this, folderID](const auto& ended) { start(folderID, ended); },
-                     .drop =
-                         [this, folderID, number] {
-                             waiting_.erase(folderID);
-                             finished(number);
-                         }});
+    core_.lanes.add(folder->path, {.start =
+                                       [this, folderID](const auto& ended) {
+                                           known_.whenKnown(folderID, [this, folderID, ended] {
+                                               start(folderID, ended);
+                                           });
+                                       },
+                                   .drop =
+                                       [this, folderID, number] {
+                                           waiting_.erase(folderID);
+                                           finished(number);
+                                       }});
     return number;
 }
 
 void TidyRuns::start(const QUuid& folderID, const std::function<void()>& ended) {
     const Request request = waiting_.extract(folderID).mapped();
     const WatchedFolder* const folder = core_.folder(folderID);
-    if (!folder) {
+    if (!folder || core_.isAtRest()) {
         finished(request.number);
         return ended();
     }
@@ -204,13 +216,20 @@ void TidyRuns::notify(const Run& run) const {
     core_.around.notifier.post(
         {.title = u"Quillon tidied %1"_s.arg(run.folder.name()),
          .body = u"Filed %1 file%2."_s.arg(filed.size()).arg(plural),
-         .undo = core_.whileAlive([&store = core_.store, filed] { store.undo(filed, {}); })});
+         .undo = core_.whileAlive([&store = core_.store, filed] { store.undo(filed, {}); }),
+         .show = core_.whileAlive([&store = core_.store, id = run.folder.id] {
+             if (store.folder(id))
+                 store.setSelectedFolderID(id);
+         })});
 }
 
 void TidyRuns::retryLater(const Run& run) {
     const bool pausedMeanwhile = core_.state().isPaused && !run.beganPaused;
-    // A stalled download that goes on is a change, and a change is a reason to look.
-    if (run.report.deferred > run.report.stalled && !pausedMeanwhile && !core_.isAtRest())
+    // A stalled download that goes on is a change, and a change is a reason to look. That the disk
+    // has room again tells nobody.
+    const bool isUnfinished =
+        run.report.deferred > run.report.stalled || run.report.run.stopped.has_value();
+    if (isUnfinished && !pausedMeanwhile && !core_.isAtRest())
         retries_.schedule(run.folder.id);
     else
         retries_.cancel(run.folder.id);

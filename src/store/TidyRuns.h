@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/KnownFiles.h"
 #include "store/RunReport.h"
 #include "store/SettleRetries.h"
 #include "store/StoreCore.h"
@@ -14,14 +15,16 @@ namespace quillon {
 /// time, and takes the result into the store. On the store's thread.
 class TidyRuns {
 public:
-    /// Borrows the core.
-    explicit TidyRuns(StoreCore& core);
+    /// Borrows both.
+    TidyRuns(StoreCore& core, KnownFiles& known);
 
     /// As AppStore::runRules.
     std::uint64_t request(const QUuid& folderID, RunCause cause);
     [[nodiscard]] std::uint64_t lastNumber() const { return lastNumber_; }
     void afterRuns(std::uint64_t number, std::function<void()> done);
     void endEarly(std::uint64_t first, std::uint64_t last);
+    /// Has afterRuns() wait for the folder's files to be known, as for a run.
+    void awaitKnown(const QUuid& folderID);
 
     [[nodiscard]] SettleRetries& retries() { return retries_; }
 
@@ -39,6 +42,7 @@ private:
     };
     struct Run;
 
+    std::uint64_t takeNumber();
     void start(const QUuid& folderID, const std::function<void()>& ended);
     void takeIn(Run& run);
     void dropRepeated(RunResult& run);
@@ -50,6 +54,7 @@ private:
     void takeAnswers(const QuestionsOutcome& outcome);
 
     StoreCore& core_;
+    KnownFiles& known_;
     SettleRetries retries_;
     std::uint64_t lastNumber_ = 0;
     std::map<QUuid, Request> waiting_; ///< one a folder that has not begun

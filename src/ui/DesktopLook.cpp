@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QPalette>
 
 #include <algorithm>
@@ -19,7 +20,7 @@ constexpr double highContrast = 20;
 constexpr int defaultBodySize = 13;
 constexpr double pixelsPerPoint = 96.0 / 72;
 constexpr double smallestPoints = 9;
-constexpr double largestPoints = 12;
+constexpr double largestPoints = 14.5;
 
 double linear(double channel) {
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -59,8 +60,11 @@ DesktopLook::~DesktopLook() {
 }
 
 bool DesktopLook::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == qGuiApp && (event->type() == QEvent::ApplicationPaletteChange ||
-                               event->type() == QEvent::ApplicationFontChange))
+    const QEvent::Type type = event->type();
+    // Of another icon theme, only windows are told.
+    if (type == QEvent::ThemeChange ||
+        (watched == qGuiApp &&
+         (type == QEvent::ApplicationPaletteChange || type == QEvent::ApplicationFontChange)))
         update();
     return QObject::eventFilter(watched, event);
 }
@@ -78,7 +82,8 @@ DesktopLook::Look DesktopLook::current() const {
             .reducesMotion = wishes.reducesMotion,
             .hasButtonsAtStart = wishes.hasButtonsAtStart,
             .fontFamily = namesFont ? font.family() : u"Inter"_s,
-            .bodySize = namesFont ? bodySizeOf(font) : defaultBodySize};
+            .bodySize = namesFont ? bodySizeOf(font) : defaultBodySize,
+            .iconTheme = QIcon::themeName()};
 }
 
 void DesktopLook::update() {

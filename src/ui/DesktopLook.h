@@ -18,6 +18,7 @@ class DesktopLook final : public QObject {
     Q_PROPERTY(bool hasButtonsAtStart READ hasButtonsAtStart NOTIFY changed)
     Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed)
     Q_PROPERTY(int bodySize READ bodySize NOTIFY changed)
+    Q_PROPERTY(QString iconTheme READ iconTheme NOTIFY changed)
 
 public:
     /// The appearance is borrowed; there may be none.
@@ -33,6 +34,7 @@ public:
     [[nodiscard]] QString fontFamily() const { return look_.fontFamily; }
     /// Of running text, in device-independent pixels.
     [[nodiscard]] int bodySize() const { return look_.bodySize; }
+    [[nodiscard]] QString iconTheme() const { return look_.iconTheme; }
 
 Q_SIGNALS:
     void changed();
@@ -48,6 +50,7 @@ private:
         bool hasButtonsAtStart = false;
         QString fontFamily;
         int bodySize = 13;
+        QString iconTheme;
 
         bool operator==(const Look&) const = default;
     };

@@ -22,4 +22,10 @@ inline constexpr int folderTints = 8;
 /// in the list.
 [[nodiscard]] FolderLook lookOf(const WatchedFolder& folder, std::size_t position);
 
+/// The same of an element of the list.
+[[nodiscard]] inline FolderLook lookOf(const WatchedFolder& folder,
+                                       const std::vector<WatchedFolder>& list) {
+    return lookOf(folder, std::size_t(&folder - list.data()));
+}
+
 } // namespace quillon

@@ -123,6 +123,14 @@ TEST(BackendErrors, SayTheRest) {
     EXPECT_EQ(label(ClaudeModel::opus), u"Claude Opus 5.5"_s);
 }
 
+TEST(OnDeviceStatus, SendsNobodyInAWindowToATerminalForWhatTheSettingsDo) {
+    for (int kind = 0; kind <= int(LocalModelState::Kind::ready); ++kind) {
+        const LocalModelState state{.kind = LocalModelState::Kind(kind), .name = u"a"_s};
+        EXPECT_EQ(statusOf(state).kind, statusOf(state, SaidIn::window).kind);
+        EXPECT_FALSE(statusOf(state, SaidIn::window).message.contains(u"quillon model pull"_s));
+    }
+}
+
 TEST(OnDeviceStatus, NamesItsReasons) {
     using System = SystemModelState;
     using enum OnDeviceStatus::Kind;

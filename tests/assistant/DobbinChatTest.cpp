@@ -346,6 +346,26 @@ TEST_F(DobbinChatTest, goesAwayInMidThought) {
     }
 }
 
+TEST_F(DobbinChatTest, keepsNoModelAtWhatNobodyWaitsFor) {
+    int hungUp = 0;
+    for (const char* const path : {"/api/chat", "/v1/messages"}) {
+        ai_.server.play(path, ModelServer::Answer{.isSilent = true});
+        for (const bool isStopped : {true, false}) {
+            chat_->ask(u"why?"_s);
+            const auto asked = ai_.server.requests(path).size() + 1;
+            ASSERT_TRUE(until([&] { return ai_.server.requests(path).size() == asked; })) << path;
+            isStopped ? chat_->stop() : chat_.reset();
+            ++hungUp;
+            EXPECT_TRUE(until([&] { return ai_.server.hungUp() == hungUp; })) << path;
+            if (isStopped)
+                EXPECT_EQ(texts().back(), u"!Stopped before there was an answer."_s);
+            else
+                start();
+        }
+        ai_.useClaude();
+    }
+}
+
 TEST_F(DobbinChatTest, remembersWhetherItsPanelIsOpen) {
     EXPECT_FALSE(chat_->isOpen());
     ASSERT_TRUE(chat_->setOpen(true));

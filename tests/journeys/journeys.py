@@ -130,24 +130,37 @@ def clean_up(programs, is_mouse):
 
 
 def history_undo(programs, is_mouse):
-    """An entry of the whole log is taken back."""
+    """An entry is taken back where it is shown, and the next one in the whole log."""
     with Visit(programs, is_mouse, folders=["Downloads"], rules=[("Downloads", *PDF)]) as visit:
         me = visit.me
-        there = visit.put("Downloads/plan.pdf")
-        filed = visit.home("Papers/plan.pdf")
-        visit.must_hold(filed.exists, "the filed plan")
+        for name in ("plan.pdf", "map.pdf"):
+            visit.put(f"Downloads/{name}")
+            visit.must_hold(visit.home(f"Papers/{name}").exists, f"the filed {name}")
+
+        def must_be_back(name):
+            visit.must_hold(lambda: visit.home(f"Downloads/{name}").exists()
+                            and not visit.home(f"Papers/{name}").exists(), f"the return of {name}")
+        me.see("list item", "map.pdf")
+        if is_mouse:
+            me.click("push button", "Undo plan.pdf")
+        else:
+            me.focus_on("list item", "map.pdf")
+            me.focus_on("list item", "plan.pdf", key="Down")
+            me.press("ctrl+z")
+        must_be_back("plan.pdf")
+        assert visit.home("Papers/map.pdf").exists(), "another entry was taken back, too"
         if is_mouse:
             me.click("push button", "See all")
         else:
             me.press("ctrl+h")
         activity = me.see("dialog", "Activity")
-        me.see("list item", "plan.pdf", within=activity)
+        me.see("list item", "map.pdf", within=activity)
         if is_mouse:
-            me.click("push button", "Undo plan.pdf", within=activity)
+            me.click("push button", "Undo map.pdf", within=activity)
         else:
-            me.focus_on("list item", "plan.pdf")
+            me.focus_on("list item", "map.pdf")
             me.press("ctrl+z")
-        visit.must_hold(lambda: there.exists() and not filed.exists(), "the plan's return")
+        must_be_back("map.pdf")
 
 
 def chat(programs, is_mouse):
@@ -171,11 +184,18 @@ def chat(programs, is_mouse):
 
 
 def missing_folder(programs, is_mouse):
-    """A folder that was moved away is found again."""
+    """A folder that was moved away is found again, after it was nearly given up."""
     with Visit(programs, is_mouse, folders=["Downloads"], rules=[("Downloads", *PDF)]) as visit:
         me = visit.me
         visit.home("Downloads").rename(visit.home("Incoming"))
         me.see("alert message", "Downloads can’t be found", patience=20)
+        if is_mouse:
+            me.click("push button", "More for Downloads")
+        else:
+            me.press("alt+Return")
+        me.choose_item("Remove Downloads…")
+        me.see("dialog", "Stop watching Downloads?")
+        me.push("Cancel")
         me.push("Locate…")
         me.choose_path(visit.home("Incoming"))
         visit.must_hold(lambda: visit.rules_of("Incoming") == ["File PDFs"], "the folder's return")

@@ -155,17 +155,6 @@ class Person:
         self.press("ctrl+a")
         self.type(text)
 
-    def pick(self, picker, item):
-        """Chooses from what a picker offers."""
-        if self.is_mouse:
-            self.click("combo box", picker)
-            self.click("list item", item)
-        else:
-            self.focus_on("combo box", picker)
-            self.press("space")
-            self.focus_on("list item", item, key="Down")
-            self.press("Return")
-
     def choose_item(self, item):
         """Takes an item of the menu that is open."""
         if self.is_mouse:

@@ -23,9 +23,10 @@ def faults(app):
             role, name, states = node.role, node.name, node.states
             # Qt keeps quiet about the name of a field for secrets; its description says what it is.
             name = name or (node.description if role == "text" else "")
-            # Nor can it name what opens around the list of a picker, which has the name.
+            # Nor can it name what opens around the list of a picker or the days of a calendar, which
+            # have the name.
             if role == "dialog" and not name:
-                name = " ".join(child.name for child in node.children if child.role == "list")
+                name = " ".join(child.name for child in node.children if child.role in ("list", "table"))
             if role in NAMED and not name.strip():
                 found.append(f"a {role} without a name in {surroundings(app, node)}")
             if role in REACHED and "sensitive" in states and "focusable" not in states:

@@ -2,6 +2,7 @@
 #include "platform/linux/DesktopFileManager.h"
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxStorage.h"
+#include "platform/linux/PortalAppearance.h"
 #include "platform/linux/PortalFileChooser.h"
 #include "platform/linux/StatusNotifierTray.h"
 #include "support/FakeDesktop.h"
@@ -88,7 +89,8 @@ TEST_F(DesktopTest, theTrayItemFollowsAStatusAreaThatComesAndGoes) {
     int paused = 0;
     tray.start({.pictures = {{.size = 1, .pixels = QByteArray("\xff\x01\x02\x03", 4)}},
                 .toolTip = {},
-                .needsAttention = true},
+                .needsAttention = true,
+                .isRightToLeft = true},
                {{.label = u"Open"_s}, {.label = u"Pause"_s, .chosen = [&] { ++paused; }}},
                {.activated =
                     [&](int x, int y) {
@@ -114,6 +116,11 @@ TEST_F(DesktopTest, theTrayItemFollowsAStatusAreaThatComesAndGoes) {
             .variant();
     };
     EXPECT_EQ(property(u"Status"_s), u"NeedsAttention"_s);
+    EXPECT_EQ(ask(item, u"/MenuBar"_s, properties, u"Get"_s,
+                  {u"com.canonical.dbusmenu"_s, u"TextDirection"_s})
+                  .value<QDBusVariant>()
+                  .variant(),
+              u"rtl"_s);
     const auto pictures = qdbus_cast<QList<BusPicture>>(property(u"IconPixmap"_s));
     ASSERT_EQ(pictures.size(), 1);
     EXPECT_EQ(pictures[0].pixels, QByteArray("\xff\x01\x02\x03", 4));
@@ -179,6 +186,34 @@ TEST_F(DesktopTest, thePortalChoosesAndWithoutOneTheFallback) {
         ASSERT_TRUE(becomes([&] { return chosen.size() > before; }));
     }
     EXPECT_THAT(chosen, ElementsAre("/from/fallback", "/a \xc3\xa9", std::nullopt));
+
+    handle = {};
+    chooser.chooseFolder(u"Choose"_s, "/", note);
+    ASSERT_TRUE(becomes([&] { return !handle.path().isEmpty(); }));
+    ASSERT_TRUE(bus_.connection().unregisterService(u"org.freedesktop.portal.Desktop"_s));
+    EXPECT_TRUE(becomes([&] { return chosen.size() == 4; })) << "it went with its dialogue open";
+}
+
+TEST_F(DesktopTest, followsWhatThePortalTellsOfTheLook) {
+    const QString portalName = u"org.freedesktop.portal.Desktop"_s;
+    const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+    QString group;
+    FakeService portal([&](const QDBusMessage& message) {
+        group = message.arguments().value(0).toString();
+        return QVariant::fromValue(QDBusVariant(QVariant::fromValue(QDBusVariant(0U))));
+    });
+    serve(portalName, portalPath, portal);
+    const ScratchFolder home;
+    PortalAppearance appearance(desktop_, home.root());
+    ASSERT_TRUE(becomes([&] { return group == u"org.gnome.desktop.wm.preferences"; }));
+    for (const uint wish : {1U, 2U}) {
+        QDBusMessage signal = QDBusMessage::createSignal(
+            portalPath, u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s);
+        signal << u"org.freedesktop.appearance"_s << u"color-scheme"_s
+               << QVariant::fromValue(QDBusVariant(wish));
+        bus_.connection().send(signal);
+        EXPECT_TRUE(becomes([&] { return appearance.wishes().prefersDark == (wish == 1U); }));
+    }
 }
 
 TEST(AutostartEntryTest, saysWhetherTheDesktopWillStartIt) {

@@ -126,6 +126,7 @@ std::vector<Scene> dobbinScenes() {
                  stage.model.chat()->ask(u"Why wasn’t Setup.dmg trashed?"_s);
              }),
         emptyChat,
+        chat(u"chat-help"_s, [](Stage& stage) { stage.model.chat()->ask(u"What can you do?"_s); }),
         general,
         settings(u"settings-dobbin"_s),
         settings(u"settings-key-saved"_s, saveKey, 3s),

@@ -1,4 +1,4 @@
-#include "Scene.h"
+#include "Items.h"
 #include "model/Uuid.h"
 
 #include <QCoreApplication>
@@ -92,6 +92,45 @@ void changeElsewhere(Stage& stage) {
                                stage.home.folderID(u"Downloads"_s));
 }
 
+/// Scrolled to its end.
+void showLastActions(Stage& stage) {
+    showEveryAction(stage);
+    later(stage, [&stage] {
+        auto* const scroller =
+            findItem(stage, "RuleEditorSheet")->property("scroller").value<QQuickItem*>();
+        scroller->setProperty("contentY",
+                              scroller->property("contentHeight").toReal() - scroller->height());
+    });
+}
+
+std::function<void(Stage&)> editing(const QString& name, const std::function<void(Stage&)>& then) {
+    return [=](Stage& stage) {
+        editRule(stage, name);
+        then(stage);
+    };
+}
+
+void showCaught(Stage& stage) {
+    later(stage, [&stage] { findItem(stage, "ProbeBar")->setProperty("isOpen", true); });
+}
+
+void showCalendar(Stage& stage) {
+    showEveryValue(stage);
+    later(stage, [&stage] {
+        QMetaObject::invokeMethod(findItem(findItem(stage, "DateField"), "IconButton"), "clicked");
+    });
+}
+
+void draftSlowly(Stage& stage) {
+    stage.server.play("/api/chat", ModelServer::Answer{.isSilent = true});
+    draftWithDobbin(stage);
+}
+
+void draftInVain(Stage& stage) {
+    stage.server.play("/api/chat", ModelServer::Answer{.status = 500});
+    draftWithDobbin(stage);
+}
+
 } // namespace
 
 std::vector<Scene> editorScenes() {
@@ -108,6 +147,19 @@ std::vector<Scene> editorScenes() {
         scene(u"editor-invoices"_s, [](Stage& stage) { editRule(stage, u"File invoices"_s); }),
         scene(u"editor-values"_s, showEveryValue),
         scene(u"editor-actions"_s, showEveryAction),
+        scene(u"editor-actions-end"_s, showLastActions),
+        scene(u"editor-caught"_s, editing(u"File invoices"_s, showCaught)),
+        scene(u"editor-picker"_s, editing(u"File invoices"_s, opening("PillPicker", 1))),
+        scene(u"editor-add-action"_s,
+              editing(u"File invoices"_s, calling("AddActionButton", "open"))),
+        scene(u"editor-calendar"_s, showCalendar),
+        scene(u"editor-drafting"_s, draftSlowly),
+        scene(u"editor-draft-failed"_s, draftInVain),
+        scene(u"editor-without-dobbin"_s,
+              [](Stage& stage) {
+                  stage.server.haveModels({});
+                  editorOf(stage).create(downloads(stage));
+              }),
         scene(u"editor-dobbin"_s, draftWithDobbin),
         scene(u"editor-offer"_s, offerDraft),
         scene(u"editor-discard"_s, askToDiscard),

@@ -292,9 +292,6 @@ Rectangle {
                 text: "Dobbin is thinking"
                 color: Theme.text2
             }
-            KeyHint {
-                text: "Ctrl+N"
-            }
         }
         Item {
             width: 470
@@ -313,10 +310,6 @@ Rectangle {
         }
         Row {
             spacing: Theme.s3
-            Tabular {
-                widest: "10,000"
-                text: "1,011"
-            }
             Label {
                 width: 160
                 text: "A name that is much too long for its place"
@@ -447,12 +440,12 @@ Rectangle {
         }
         MenuItem {
             text: "Include subfolders"
-            checkable: true
-            checked: true
+            isChoice: true
+            isChosen: true
         }
         MenuItem {
             text: "Only new files"
-            checkable: true
+            isChoice: true
         }
         MenuDivider {}
         Menu {

@@ -1,4 +1,4 @@
-#include "Scene.h"
+#include "Items.h"
 #include "ui/history/HistoryModel.h"
 #include "ui/history/PopoverModel.h"
 
@@ -50,6 +50,12 @@ std::vector<Scene> historyScenes() {
         history(u"history-no-match"_s,
                 [](HistoryModel& model) { model.setSearchText(u"no such file"_s); }),
         empty,
+        {.name = u"history-folders"_s,
+         .arrange =
+             [](Stage& stage) {
+                 stage.model.history()->open();
+                 opening("PillPicker", 1)(stage);
+             }},
         popover(u"popover"_s),
         popover(u"popover-fine"_s, SampleHome::Contents::noFolders, addFineFolders),
         popover(u"popover-paused"_s, SampleHome::Contents::noFolders,

@@ -1,10 +1,12 @@
 #include "SampleFiles.h"
 #include "Scene.h"
 #include "model/Uuid.h"
+#include "service/Services.h"
 
 #include <QTimer>
 
 #include <filesystem>
+#include <thread>
 
 namespace quillon::testing {
 
@@ -48,6 +50,16 @@ void tidyAll(CleanupModel& model) {
         &model, [&model] { model.tidy(); }, Qt::QueuedConnection);
 }
 
+bool showsResult(Stage& stage) {
+    return stage.model.cleanup()->state() == u"result"_s;
+}
+
+Scene tidied(const QString& name, const std::function<void(CleanupModel&)>& then) {
+    Scene scene = cleanup(name, then);
+    scene.isReady = showsResult;
+    return scene;
+}
+
 Scene cleanupOf(const QString& name, const QString& folder) {
     return {.name = name, .arrange = [folder](Stage& stage) {
                 stage.model.cleanup()->open(idOf(stage, folder));
@@ -63,6 +75,17 @@ Scene preview(const QString& name, const QString& folder,
                 if (then)
                     then(model);
             }};
+}
+
+/// Every thread has something else to do until after the picture.
+Scene previewLooking() {
+    Scene scene = preview(u"preview-looking"_s, u"Downloads"_s);
+    scene.arrange = [open = scene.arrange](Stage& stage) {
+        for (int i = 0; i < 16; ++i)
+            stage.services.background().start([] { std::this_thread::sleep_for(1800ms); }, [] {});
+        open(stage);
+    };
+    return scene;
 }
 
 /// Tidied with one file that can't go where it should: a file stands in a folder's place.
@@ -102,7 +125,11 @@ Scene tidyingMany() {
         open(stage);
         whenReady(*stage.model.cleanup(), u"review"_s, tidyAll);
     };
-    scene.settling = 1500ms;
+    scene.settling = 100ms;
+    scene.isReady = [](Stage& stage) {
+        const CleanupModel& model = *stage.model.cleanup();
+        return model.state() == u"tidying"_s && model.progress() > 0.1;
+    };
     return scene;
 }
 
@@ -127,12 +154,14 @@ std::vector<Scene> reviewScenes() {
                     QMetaObject::invokeMethod(
                         &model, [&model] { model.tickRow(6, false); }, Qt::QueuedConnection);
                 }),
-        cleanup(u"cleanup-result"_s, tidyAll),
-        cleanup(u"cleanup-kept"_s,
-                [](CleanupModel& model) {
-                    tidyAll(model);
-                    whenReady(model, u"result"_s, [](CleanupModel& done) { done.keep(); });
-                }),
+        tidied(u"cleanup-result"_s, tidyAll),
+        tidied(u"cleanup-kept"_s,
+               [](CleanupModel& model) {
+                   tidyAll(model);
+                   whenReady(model, u"result"_s, [](CleanupModel& done) { done.keep(); });
+               }),
+        cleanup(u"cleanup-filter"_s,
+                [](CleanupModel& model) { model.setFilterText(u"no such file"_s); }),
         tidyingMany(),
         cleanupWithFailure(),
         looking(),
@@ -142,6 +171,11 @@ std::vector<Scene> reviewScenes() {
         cleanupOf(u"cleanup-desktop"_s, u"Desktop"_s),
         preview(u"preview"_s, u"Downloads"_s),
         preview(u"preview-left"_s, u"Downloads"_s, [](PreviewModel& model) { model.setFate(1); }),
+        preview(u"preview-waiting"_s, u"Downloads"_s,
+                [](PreviewModel& model) { model.setFate(2); }),
+        preview(u"preview-filter"_s, u"Downloads"_s,
+                [](PreviewModel& model) { model.setFilterText(u"no such file"_s); }),
+        previewLooking(),
         preview(u"preview-empty"_s, u"Desktop"_s),
         preview(u"preview-denied"_s, u"Team Drive"_s),
         {.name = u"presets"_s,

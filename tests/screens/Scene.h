@@ -32,6 +32,8 @@ struct Scene {
     std::function<void(Stage&)> arrange = [](Stage&) {};
     /// How long what comes from the background and every animation take.
     std::chrono::milliseconds settling = std::chrono::milliseconds(1200);
+    /// What the picture then waits for still.
+    std::function<bool(Stage&)> isReady = [](Stage&) { return true; };
 };
 
 // One function a file of scenes; all of them are listed in main.cpp.

@@ -56,6 +56,25 @@ void choose(Services& services, const QString& key, const QString& value) {
         qFatal("%s", qUtf8Printable(chosen.error().message));
 }
 
+/// Takes the picture once the scene has settled and is ready. Its time passes in small steps, of
+/// which a busy computer takes no two at once.
+void takeWhenReady(QApplication& application, const Scene& scene, Stage& stage,
+                   const QString& file) {
+    constexpr std::chrono::milliseconds step(100);
+    constexpr std::chrono::seconds patience(20);
+    auto* const clock = new QTimer(&stage.window);
+    QObject::connect(clock, &QTimer::timeout, &application,
+                     [&, clock, file, passed = std::chrono::milliseconds(0)]() mutable {
+                         passed += step;
+                         if (passed < scene.settling ||
+                             (!scene.isReady(stage) && passed < patience))
+                             return;
+                         clock->stop();
+                         application.exit(stage.window.grabWindow().save(file) ? 0 : 1);
+                     });
+    clock->start(step);
+}
+
 /// "960x640".
 QSize sizeFrom(const QString& text) {
     const QStringList size = text.split(u'x');
@@ -66,7 +85,7 @@ int takePicture(QApplication& application, const Scene& scene, SampleHome& home,
                 const QString& file) {
     ModelServer server;
     playSampleModel(server);
-    Services services(home.folders());
+    Services services(home.folders(), SaidIn::window);
     choose(services, u"ai.localHost"_s, server.host());
     choose(services, u"hasOnboarded"_s, scene.isFirstRun ? u"false"_s : u"true"_s);
     const auto store = services.startInstance();
@@ -80,14 +99,13 @@ int takePicture(QApplication& application, const Scene& scene, SampleHome& home,
                     .loginItem = desktop});
     const auto engine = makeQmlEngine(model);
     const auto window = makeWindow(*engine, scene.window);
-    if (size.isValid())
+    if (size.isValid() && scene.window == Scene().window)
         window->resize(size);
     window->show();
     Stage stage{model, *window, **store, services, home, desktop, server};
     scene.arrange(stage);
     if (!file.isEmpty())
-        QTimer::singleShot(scene.settling, &application,
-                           [&] { application.exit(window->grabWindow().save(file) ? 0 : 1); });
+        takeWhenReady(application, scene, stage, file);
     return application.exec();
 }
 
@@ -101,6 +119,7 @@ int main(int argc, char** argv) {
     parser.addPositionalArgument(u"scene"_s, u"which, or \"list\""_s);
     parser.addPositionalArgument(u"file"_s, u"where to"_s);
     parser.addOptions({{u"dark"_s, u"in the dark"_s},
+                       {u"contrast"_s, u"in black and white"_s},
                        {u"rtl"_s, u"from right to left"_s},
                        {u"stay"_s, u"show it until it is closed"_s},
                        {u"size"_s, u"of the window"_s, u"WxH"_s},
@@ -124,8 +143,8 @@ int main(int argc, char** argv) {
     if (scene == all.end() || named.size() != (stays ? 1 : 2)) {
         std::fprintf(
             stderr,
-            "usage: screens list | SCENE --stay | SCENE FILE.png [--dark] [--rtl] [--size WxH] "
-            "[--font-size POINTS]\n");
+            "usage: screens list | SCENE --stay | SCENE FILE.png [--dark] [--contrast] [--rtl] "
+            "[--size WxH] [--font-size POINTS]\n");
         return 2;
     }
     if (!stays)
@@ -137,10 +156,15 @@ int main(int argc, char** argv) {
     installTranslations(application);
     if (parser.isSet(u"dark"_s))
         QApplication::setPalette(QPalette(QColor(0x2b, 0x2d, 0x30)));
+    if (parser.isSet(u"contrast"_s)) {
+        const bool isDark = parser.isSet(u"dark"_s);
+        QApplication::setPalette(QPalette(isDark ? Qt::black : Qt::white));
+    }
     if (parser.isSet(u"rtl"_s))
         QApplication::setLayoutDirection(Qt::RightToLeft);
+    // As a desktop says it: by a font that is installed.
     if (parser.isSet(u"font-size"_s)) {
-        QFont font = QApplication::font();
+        QFont font(u"Inter"_s);
         font.setPointSizeF(parser.value(u"font-size"_s).toDouble());
         QApplication::setFont(font);
     }

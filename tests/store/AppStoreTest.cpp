@@ -1,6 +1,9 @@
 #include "model/Uuid.h"
 #include "support/AppStoreBench.h"
+#include "support/FullDisk.h"
 #include "support/PrintQt.h"
+
+#include <thread>
 
 namespace quillon {
 namespace {
@@ -41,6 +44,7 @@ TEST(AppStore, findsAFolderAgainThatMovedWithItsRulesAndWhatCountedAsHandled) {
     bench.addRule(bench.mover(u"pdf"_s, "out"), folderID);
     bench.disk.machine.write("in/old.pdf", "a");
     bench.store->setOnlyNewFiles(true, folderID);
+    bench.background.finish();
     std::filesystem::rename(bench.disk.machine.at("in"), bench.disk.machine.at("moved"));
     bench.touch("moved/old.pdf", bench.clock.now() - 1h);
 
@@ -132,6 +136,7 @@ TEST(AppStore, leavesWhatWasThereAloneInFoldersForNewFiles) {
     const QUuid folderID = bench.addFolder("in");
     bench.disk.machine.write("in/old.pdf", "a");
     bench.store->setOnlyNewFiles(true, folderID);
+    bench.background.finish();
     EXPECT_EQ(bench.saved().processedFiles.value(uuidText(folderID)).size(), 1);
     bench.addRule(bench.mover(u"pdf"_s, "out"), folderID);
     bench.disk.machine.write("in/new.pdf", "b");
@@ -148,10 +153,46 @@ TEST(AppStore, leavesWhatWasThereAloneInFoldersForNewFiles) {
 
     std::filesystem::rename(bench.disk.machine.at("in"), bench.disk.machine.at("away"));
     bench.store->setOnlyNewFiles(true, folderID);
+    bench.background.finish();
     std::filesystem::rename(bench.disk.machine.at("away"), bench.disk.machine.at("in"));
     bench.store->runRules(folderID, RunCause::asked);
     bench.background.finish();
     EXPECT_TRUE(bench.disk.machine.tree().contains("in/old.pdf"));
+}
+
+TEST(AppStore, missesNothingThatComesWhileTheFilesThatAreThereAreListed) {
+    AppStoreBench bench;
+    const QUuid folderID = bench.addFolder("in");
+    bench.disk.machine.write("in/old.pdf", "a");
+    bench.clock.set(std::chrono::file_clock::to_sys(
+                        std::filesystem::last_write_time(bench.disk.machine.at("in/old.pdf"))) +
+                    1ms);
+    while (std::chrono::system_clock::now() < bench.clock.now() + 20ms)
+        std::this_thread::sleep_for(1ms);
+    bench.store->setOnlyNewFiles(true, folderID);
+    bench.store->addRules({bench.mover(u"pdf"_s, "out")}, folderID, RuleSource::manual);
+    EXPECT_TRUE(bench.store->wantsOnlyNewFiles(folderID));
+    EXPECT_FALSE(bench.saved().folders.front().onlyNewFiles)
+        << "after a crash now, the old files would count as new";
+    bool isOver = false;
+    bench.store->afterRuns(bench.store->lastRunNumber(), [&] { isOver = true; });
+    bench.disk.machine.write("in/new.pdf", "b");
+    bench.clock.advance(1h);
+    EXPECT_FALSE(isOver);
+    bench.background.finish();
+    EXPECT_TRUE(isOver);
+    EXPECT_TRUE(bench.saved().folders.front().onlyNewFiles);
+    EXPECT_TRUE(bench.disk.machine.tree().contains("in/old.pdf"));
+    EXPECT_TRUE(bench.disk.machine.tree().contains("out/new.pdf"));
+
+    // Thought better of before it was known, it is as if it had never been asked for.
+    bench.store->setOnlyNewFiles(false, folderID);
+    bench.store->setOnlyNewFiles(true, folderID);
+    bench.store->runRules(folderID);
+    bench.store->setOnlyNewFiles(false, folderID);
+    bench.background.finish();
+    EXPECT_FALSE(bench.store->wantsOnlyNewFiles(folderID));
+    EXPECT_TRUE(bench.disk.machine.tree().contains("out/old.pdf"));
 }
 
 TEST(AppStore, needsAttentionForADayAfterAnErrorAndWhileAFolderIsAway) {
@@ -238,6 +279,20 @@ TEST(AppStore, triesAFailedSaveAgainEveryMinuteAndWithTheNextChange) {
     bench.store->setSymbol(u"tray"_s, folderID);
     EXPECT_FALSE(bench.store->lastSaveError());
     EXPECT_EQ(bench.saved().folders, bench.store->folders());
+}
+
+TEST(AppStore, filesWhatItCouldntFileForWantOfRoom) {
+    AppStoreBench bench;
+    const QUuid folderID = bench.addFolder("in");
+    bench.addRule(bench.mover(u"pdf"_s, "out"), folderID);
+    bench.disk.machine.write("in/a.pdf", "a");
+    {
+        const testing::FullDisk full;
+        bench.runs([&] { bench.store->runRules(folderID); });
+    }
+    EXPECT_TRUE(bench.disk.machine.tree().contains("in/a.pdf"));
+    EXPECT_EQ(bench.runs([&] { bench.pass(4s); }), 1U);
+    EXPECT_TRUE(bench.disk.machine.tree().contains("out/a.pdf"));
 }
 
 TEST(AppStore, exportsRulesAndImportsThemUnderFreshIds) {

@@ -231,6 +231,7 @@ TEST(TidyRuns, countAFileThatWaitsForTheAssistantAsNew) {
     Rule asking = live.mover(u"a receipt"_s, "receipts");
     asking.conditions.front().attribute = ConditionAttribute::dobbinSays;
     live.store->setOnlyNewFiles(true, live.folderID);
+    live.background.finish();
     live.addRule(asking, live.folderID);
     live.disk.machine.write("in/scan.txt", "a");
     live.judge.waiting = true;

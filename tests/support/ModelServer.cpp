@@ -79,6 +79,8 @@ public:
         : QObject(socket), server_(server), socket_(socket) {
         connect(socket, &QTcpSocket::readyRead, this, [this] { read(); });
         connect(socket, &QTcpSocket::bytesWritten, this, [this] { pad(); });
+        connect(socket, &QTcpSocket::disconnected, this,
+                [this] { server_.hungUp_ += isAnswered_ && answer_.isSilent; });
         connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     }
 

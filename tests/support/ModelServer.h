@@ -68,6 +68,8 @@ public:
     [[nodiscard]] QList<Request> requests() const;
     [[nodiscard]] QList<Request> requests(const QByteArray& path) const;
     [[nodiscard]] qint64 bytesSent() const { return bytesSent_; }
+    /// Callers that hung up before they were answered.
+    [[nodiscard]] int hungUp() const { return hungUp_; }
 
     // Recorded bodies.
 
@@ -87,6 +89,7 @@ private:
     QMap<QByteArray, Handler> handlers_;
     QList<Request> requests_;
     std::atomic<qint64> bytesSent_ = 0;
+    std::atomic<int> hungUp_ = 0;
     quint16 port_ = 0;
     QThread thread_;
 };

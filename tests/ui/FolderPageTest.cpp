@@ -89,6 +89,9 @@ TEST_F(FolderPageTest, TellsWhatCameOfARunByHandAndSpinsOnlyWhenItIsSlow) {
     page.run();
     bench.background.finish();
     EXPECT_EQ(toasts.sentence(), u"1 file in in couldn’t be filed."_s);
+    page.run();
+    bench.background.finish();
+    EXPECT_EQ(bench.store->recentErrorCount(folder), 2U);
     EXPECT_EQ(page.banner().text, u"1 file couldn’t be filed today"_s);
     EXPECT_TRUE(activity().front().isError);
     EXPECT_FALSE(activity().front().canUndo);

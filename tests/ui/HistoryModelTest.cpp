@@ -139,6 +139,9 @@ TEST_F(HistoryModelTest, ShowsTheLogByDayAndBatchWhileItsSheetIsOpen) {
     EXPECT_EQ(titles().mid(2),
               QStringList({u"Clean Up in in"_s, u"  a.dmg"_s, u"  b.dmg"_s, u"  c.png"_s}));
     EXPECT_EQ(model->headOf(4), 2);
+    bench.pass(12h + 1min);
+    EXPECT_EQ(model->days()[model->rows()[0].day].toMap()[u"heading"_s], u"Yesterday"_s)
+        << "called today on the next day";
     sheets.close();
     EXPECT_EQ(model->rowCount(), 0);
 }

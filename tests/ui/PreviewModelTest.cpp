@@ -76,6 +76,7 @@ TEST_F(PreviewModelTest, TellsWhatARunWouldDoAndTouchesNothing) {
         {u"B.PDF"_s, 1}, {u"move to"_s, 2}, {u"move pdf"_s, 2}, {u"c.txt"_s, 0}};
     for (const auto& [words, size] : filters) {
         model.setFilterText(words);
+        bench.background.finish();
         EXPECT_EQ(rows().size(), size) << words.toStdString();
     }
     EXPECT_EQ(model.emptyText(), u"No files match."_s);

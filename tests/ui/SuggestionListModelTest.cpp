@@ -60,9 +60,22 @@ TEST_F(SuggestionListModelTest, AddsARuleAndTakesItBackWithWhatItDid) {
     settle();
     EXPECT_EQ(model.count(), 0) << "offered though the folder has it";
     EXPECT_EQ(toasts.sentence(), u"“File screenshots” added"_s);
+    Rule namesake = bench.mover(u"pdf"_s, "out");
+    namesake.name = u"File screenshots"_s;
+    bench.disk.machine.write("in/a.pdf", "x");
+    bench.touch("in/a.pdf", bench.clock.now() - 48h);
+    bench.addRule(namesake, folder);
+    ASSERT_TRUE(isThere("out/a.pdf"));
+
+    const std::string late = "Screenshot 2026-01-09.png";
+    bench.disk.machine.write("in/" + late, "x");
+    bench.touch("in/" + late, bench.clock.now() - 48h);
+    bench.store->runRules(folder);
     toasts.act();
     bench.background.finish();
-    EXPECT_TRUE(bench.store->folder(folder)->rules.empty());
+    EXPECT_TRUE(isThere("in/" + late)) << "filed by a run that was under way";
+    EXPECT_TRUE(isThere("out/a.pdf")) << "another rule of the same name did that";
+    EXPECT_EQ(bench.store->folder(folder)->rules, std::vector{namesake});
     EXPECT_TRUE(isThere("in/Screenshot 2026-01-01.png"));
     settle();
     EXPECT_EQ(model.count(), 1);

@@ -25,13 +25,15 @@ fromKeychain(const std::function<void(std::function<void(Expected<T>)>)>& start)
 } // namespace
 
 AIManager::AIManager(Settings& settings, Keychain& keychain, const Clock& clock,
-                     std::function<void()> forgetAnswers, AIPatience patience, QObject* parent)
+                     std::function<void()> forgetAnswers, AIPatience patience, SaidIn where,
+                     QObject* parent)
     : QObject(parent)
     , settings_(settings)
     , keychain_(keychain)
     , clock_(clock)
     , forgetAnswers_(std::move(forgetAnswers))
     , patience_(patience)
+    , where_(where)
     , life_(std::make_shared<int>()) {}
 
 AIManager::~AIManager() {
@@ -76,7 +78,8 @@ QCoro::Task<Expected<QString>> AIManager::askClaude(AIRequest request) {
                                .messages = std::move(request.messages),
                                .maxTokens = maxTokens,
                                .schema = std::move(request.schema),
-                               .effort = u"low"_s};
+                               .effort = u"low"_s,
+                               .stop = std::move(request.stop)};
     const ClaudeExpected<ClaudeClient::Reply> reply = co_await client.send(std::move(what));
     if (!reply)
         co_return std::unexpected(asError(reply.error()));
@@ -91,7 +94,7 @@ QCoro::Task<Expected<QString>> AIManager::askOnDevice(AIRequest request) {
     const LocalModelState state = co_await look();
     if (life.expired())
         co_return gone();
-    const OnDeviceStatus status = statusOf(state);
+    const OnDeviceStatus status = statusOf(state, where_);
     if (status.kind != OnDeviceStatus::Kind::available) {
         const AIError error{.kind = AIError::Kind::onDeviceUnavailable, .detail = status.message};
         co_return std::unexpected(asError(error));
@@ -110,7 +113,7 @@ QCoro::Task<LocalModelState> AIManager::look() {
     if (life.expired())
         co_return state;
     state = whileDownloading(std::move(state), download_);
-    const OnDeviceStatus status = statusOf(state);
+    const OnDeviceStatus status = statusOf(state, where_);
     if (status != status_) {
         status_ = status;
         Q_EMIT statusChanged();
@@ -225,7 +228,7 @@ ClaudeClient AIManager::claude(const QString& key) {
 OnDeviceModel AIManager::onDevice() {
     if (!http_)
         http_ = std::make_unique<HttpClient>();
-    return {*http_, text(u"ai.localHost"), patience_.local};
+    return {*http_, text(u"ai.localHost"), patience_.local, where_};
 }
 
 QString AIManager::text(QStringView key) const {

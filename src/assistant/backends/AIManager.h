@@ -42,10 +42,10 @@ class AIManager final : public QObject, public ModelAccess {
 
 public:
     /// Borrows the first three. `forgetAnswers` is called after another key was saved: what has
-    /// been answered so far came from another model.
+    /// been answered so far came from another model. `where` is where failures are read.
     AIManager(Settings& settings, Keychain& keychain, const Clock& clock,
               std::function<void()> forgetAnswers, AIPatience patience = {},
-              QObject* parent = nullptr);
+              SaidIn where = SaidIn::terminal, QObject* parent = nullptr);
     ~AIManager() override;
 
     /// Loads the key first where Claude is to be asked and it isn't in memory. Where it can't be
@@ -110,8 +110,9 @@ private:
     const Clock& clock_;
     std::function<void()> forgetAnswers_;
     AIPatience patience_;
+    SaidIn where_;
     QString apiKey_;
-    OnDeviceStatus status_ = statusOf(LocalModelState{});
+    OnDeviceStatus status_ = statusOf(LocalModelState{}, where_);
     std::optional<int> download_;
 
     std::shared_ptr<const void> life_; ///< those who wait look whether it is still there

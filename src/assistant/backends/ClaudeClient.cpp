@@ -93,6 +93,7 @@ QCoro::Task<ClaudeExpected<ClaudeClient::Reply>> ClaudeClient::send(Request requ
         what->headers.emplaceBack("content-type", "application/json");
         what->body = bodyOf(request);
         what->patience = patience_.send;
+        what->stop = request.stop;
     }
     const ClaudeExpected<HttpReply> reply = co_await accepting(std::move(what), http_, key_);
     if (!reply)

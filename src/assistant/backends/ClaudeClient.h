@@ -37,6 +37,7 @@ public:
         int maxTokens = 0;
         std::optional<QByteArray> schema; ///< JSON text
         QString effort;                   ///< "low"
+        std::stop_token stop = {};
     };
 
     struct Patience {

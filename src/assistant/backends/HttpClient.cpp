@@ -53,10 +53,12 @@ HttpClient::~HttpClient() = default;
 
 Later<Expected<HttpReply>> HttpClient::fetch(HttpRequest request) {
     const auto start = [&](HttpExchange::Done done) {
+        if (request.stop.stop_requested())
+            return;
         const QNetworkRequest what = prepared(request);
         QNetworkReply* const reply =
             request.body ? post(manager(), what, *request.body) : manager().get(what);
-        new HttpExchange(reply, request.patience, std::move(done), &exchanges_);
+        new HttpExchange(reply, request, std::move(done), &exchanges_);
     };
     return {start, failure(ErrorKind::io, QStringLiteral("The request was given up."))};
 }

@@ -11,6 +11,7 @@
 #include <chrono>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <utility>
 
 class QNetworkAccessManager;
@@ -22,6 +23,7 @@ struct HttpRequest {
     QList<std::pair<QByteArray, QByteArray>> headers = {};
     std::optional<QByteArray> body = {};  ///< of a POST; without one it is a GET
     std::chrono::milliseconds patience{}; ///< from the first byte sent to the last received
+    std::stop_token stop = {};            ///< hangs up; on the client's thread
 };
 
 struct HttpReply {
@@ -42,7 +44,7 @@ public:
     ~HttpClient();
 
     /// Fails with `timedOut`, with `invalid` for an answer that is too long, and with `io` when the
-    /// request could not be carried out. The message is the system's reason.
+    /// request was stopped or could not be carried out. The message is the system's reason.
     [[nodiscard]] Later<Expected<HttpReply>> fetch(HttpRequest request);
 
 private:

@@ -17,9 +17,12 @@ bool isAnswer(QNetworkReply::NetworkError error) {
 
 } // namespace
 
-HttpExchange::HttpExchange(QNetworkReply* reply, std::chrono::milliseconds patience, Done done,
+HttpExchange::HttpExchange(QNetworkReply* reply, const HttpRequest& request, Done done,
                            QObject* parent)
-    : QObject(parent), reply_(reply), done_(std::move(done)) {
+    : QObject(parent)
+    , reply_(reply)
+    , done_(std::move(done))
+    , stop_(request.stop, [this] { end(failure(ErrorKind::io, u"The request was given up."_s)); }) {
     reply_->setParent(this);
     reply_->setReadBufferSize(readBuffer);
     connect(reply_, &QNetworkReply::metaDataChanged, this, &HttpExchange::checkAnnounced);
@@ -28,7 +31,7 @@ HttpExchange::HttpExchange(QNetworkReply* reply, std::chrono::milliseconds patie
     patience_.setSingleShot(true);
     connect(&patience_, &QTimer::timeout, this,
             [this] { end(failure(ErrorKind::timedOut, u"The request timed out."_s)); });
-    patience_.start(patience);
+    patience_.start(request.patience);
 }
 
 void HttpExchange::checkAnnounced() {

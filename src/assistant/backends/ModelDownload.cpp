@@ -28,7 +28,7 @@ ModelDownload::ModelDownload(const QString& host, QString name, Listener listene
     patience_.setInterval(patience);
     QObject::connect(&patience_, &QTimer::timeout, &patience_, [this] {
         end(failure(ErrorKind::timedOut, u"The local server doesn't go on with the download; "
-                                         "restart it, and run “quillon model pull” again"_s));
+                                         "restart it, and begin again"_s));
     });
     if (const Expected<QUrl> url = localHost(host))
         ask(*url);
@@ -89,8 +89,8 @@ void ModelDownload::finished() {
                     "“ollama serve”"_s.arg(reply_->url().adjusted(QUrl::RemovePath).toString())));
     if (status != accepted)
         return refused();
-    end(failure(ErrorKind::io, u"The download ended early; “quillon model pull” goes on where it "
-                               "stopped"_s));
+    end(failure(ErrorKind::io,
+                u"The download ended early; the next one goes on where it stopped"_s));
 }
 
 void ModelDownload::refused() {

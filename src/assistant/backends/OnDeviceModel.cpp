@@ -30,9 +30,8 @@ std::unexpected<AIError> aiFailure(AIError::Kind kind, const QString& detail = {
     return std::unexpected(AIError{.kind = kind, .detail = detail});
 }
 
-std::unexpected<AIError> unavailable(State state, const QString& name = {}) {
-    return aiFailure(AIError::Kind::onDeviceUnavailable,
-                     statusOf({.kind = state, .name = name}).message);
+std::unexpected<AIError> unavailable(const LocalModelState& state, SaidIn where) {
+    return aiFailure(AIError::Kind::onDeviceUnavailable, statusOf(state, where).message);
 }
 
 QByteArray compact(const QJsonObject& object) {
@@ -78,11 +77,11 @@ bool isAboutLength(const QString& said) {
            (says("exceed"_L1) || says("too long"_L1) || says("length"_L1));
 }
 
-std::unexpected<AIError> serverError(int status, const QString& said) {
+std::unexpected<AIError> serverError(int status, const QString& said, SaidIn where) {
     if (isAboutLength(said))
         return aiFailure(AIError::Kind::tooLong);
     if (status == notNow && !said.contains("busy"_L1))
-        return unavailable(State::loading);
+        return unavailable({.kind = State::loading}, where);
     return aiFailure(AIError::Kind::localModel,
                      said.isEmpty() ? u"the server returned an error (%1)."_s.arg(status)
                                     : said.left(mostDetail));
@@ -158,9 +157,11 @@ QCoro::Task<AIExpected<QString>> OnDeviceModel::respond(QString model, AIRequest
     if (!host)
         co_return aiFailure(AIError::Kind::onDeviceUnavailable, host.error().message);
     HttpRequest ask = requestTo(*host, "/api/chat", chatBody(model, request), patience_.respond);
+    ask.stop = request.stop;
+    const SaidIn where = where_; // this may be gone by then
     const Expected<HttpReply> reply = co_await http_.fetch(std::move(ask));
     if (reply)
-        co_return parse(reply->body, reply->status, request.schema);
+        co_return parse(reply->body, reply->status, request.schema, where);
     if (reply.error().kind == ErrorKind::invalid)
         co_return aiFailure(AIError::Kind::badResponse);
     co_return aiFailure(AIError::Kind::localModel, reply.error().message);
@@ -180,13 +181,13 @@ QString OnDeviceModel::flatten(const QList<AIMessage>& messages) {
 }
 
 AIExpected<QString> OnDeviceModel::parse(const QByteArray& body, int status,
-                                         const std::optional<QByteArray>& schema) {
+                                         const std::optional<QByteArray>& schema, SaidIn where) {
     const QJsonObject answer = QJsonDocument::fromJson(body).object();
     const QString error = answer[u"error"].toString();
     if (status != accepted || !error.isEmpty())
-        return serverError(status, error);
+        return serverError(status, error, where);
     if (saysElsewhere(answer))
-        return unavailable(State::elsewhere, answer[u"model"].toString());
+        return unavailable({.kind = State::elsewhere, .name = answer[u"model"].toString()}, where);
     const QJsonObject message = answer[u"message"].toObject();
     const QString reason = answer[u"done_reason"].toString();
     if (reason == u"refusal" || reason == u"content_filter" ||

@@ -31,8 +31,9 @@ public:
     };
 
     /// Borrows the HTTP client; `host` is the text of a setting.
-    OnDeviceModel(HttpClient& http, QString host, Patience patience)
-        : http_(http), host_(std::move(host)), patience_(patience) {}
+    OnDeviceModel(HttpClient& http, QString host, Patience patience,
+                  SaidIn where = SaidIn::terminal)
+        : http_(http), host_(std::move(host)), patience_(patience), where_(where) {}
 
     /// How things are with the model that was chosen, or where `chosen` is empty with the first one
     /// that is installed, can answer and runs here. When ready, `name` is what to ask.
@@ -46,12 +47,14 @@ public:
 
     /// What an answer of the server means; one that doesn't fit the schema is none.
     [[nodiscard]] static AIExpected<QString> parse(const QByteArray& body, int status,
-                                                   const std::optional<QByteArray>& schema);
+                                                   const std::optional<QByteArray>& schema,
+                                                   SaidIn where = SaidIn::terminal);
 
 private:
     HttpClient& http_;
     QString host_;
     Patience patience_;
+    SaidIn where_;
 };
 
 } // namespace quillon

@@ -12,7 +12,8 @@ namespace {
 
 struct Row {
     OnDeviceStatus::Kind kind;
-    std::u16string_view message; ///< %1 is the model's name, %2 the per cent
+    std::u16string_view message;       ///< %1 is the model's name, %2 the per cent
+    std::u16string_view inWindow = {}; ///< where there is something else to do
 };
 
 using enum OnDeviceStatus::Kind;
@@ -29,14 +30,24 @@ static_assert(systemRows.size() == std::size_t(SystemModelState::other) + 1);
 
 constexpr auto localRows = std::to_array<Row>({
     {needsSetup, u"%1"},
-    {needsSetup, u"Dobbin needs a local model. Install Ollama, then run “quillon model pull”."},
-    {needsSetup, u"Dobbin needs a local model. Run “quillon model pull” to download one."},
-    {needsSetup, u"The local model “%1” isn't installed. Run “quillon model pull %1” to download "
-                 u"it, or choose another with “quillon model use”."},
-    {needsSetup, u"The model “%1” doesn't run on this computer, so Dobbin doesn't use it. Choose "
-                 u"another with “quillon model use”."},
-    {needsSetup, u"The local model “%1” isn't made for answering. Choose another with “quillon "
-                 u"model use”."},
+    {needsSetup, u"Dobbin needs a local model. Install Ollama, then run “quillon model pull”.",
+     u"Dobbin needs a local model. Install Ollama, then download one in Settings → Dobbin."},
+    {needsSetup, u"Dobbin needs a local model. Run “quillon model pull” to download one.",
+     u"Dobbin needs a local model. Download one in Settings → Dobbin."},
+    {needsSetup,
+     u"The local model “%1” isn't installed. Run “quillon model pull %1” to download "
+     u"it, or choose another with “quillon model use”.",
+     u"The local model “%1” isn't installed. Download it in Settings → Dobbin."},
+    {needsSetup,
+     u"The model “%1” doesn't run on this computer, so Dobbin doesn't use it. Choose "
+     u"another with “quillon model use”.",
+     u"The model “%1” doesn't run on this computer, so Dobbin doesn't use it. Choose another in a "
+     u"terminal with “quillon model use”, or switch on Claude in Settings → Dobbin → Advanced."},
+    {needsSetup,
+     u"The local model “%1” isn't made for answering. Choose another with “quillon "
+     u"model use”.",
+     u"The local model “%1” isn't made for answering. Choose another in a terminal with “quillon "
+     u"model use”, or switch on Claude in Settings → Dobbin → Advanced."},
     {needsSetup, u"The local model is still downloading (%2%). Dobbin will be ready soon."},
     {needsSetup, u"The local model is loading. Dobbin will be ready soon."},
     {needsSetup, u"The local model isn't available right now."},
@@ -51,9 +62,10 @@ OnDeviceStatus statusOf(SystemModelState state) {
     return {.kind = row.kind, .message = toQString(row.message)};
 }
 
-OnDeviceStatus statusOf(const LocalModelState& state) {
+OnDeviceStatus statusOf(const LocalModelState& state, SaidIn where) {
     const Row& row = localRows[static_cast<std::size_t>(state.kind)];
-    QString message = toQString(row.message);
+    const bool isInWindow = where == SaidIn::window && !row.inWindow.empty();
+    QString message = toQString(isInWindow ? row.inWindow : row.message);
     message.replace(u"%2"_s, QString::number(state.percent)).replace(u"%1"_s, state.name);
     return {.kind = row.kind, .message = message};
 }

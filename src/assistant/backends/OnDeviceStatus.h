@@ -56,7 +56,11 @@ struct LocalModelState {
     bool operator==(const LocalModelState&) const = default;
 };
 
-[[nodiscard]] OnDeviceStatus statusOf(const LocalModelState& state);
+/// Where a sentence is read, and so what it says to do.
+enum class SaidIn : std::uint8_t { terminal, window };
+
+[[nodiscard]] OnDeviceStatus statusOf(const LocalModelState& state,
+                                      SaidIn where = SaidIn::terminal);
 
 /// The same while this process downloads a model: one that is missing is on its way.
 [[nodiscard]] LocalModelState whileDownloading(LocalModelState state, std::optional<int> percent);

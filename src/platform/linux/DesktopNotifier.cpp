@@ -21,7 +21,7 @@ struct DesktopNotifier::State {
     QString address;
     QObject receiver;
     std::shared_ptr<Mailbox> mailbox = std::make_shared<Mailbox>(&receiver);
-    std::unordered_map<std::uint64_t, std::function<void()>> undos;
+    std::unordered_map<std::uint64_t, Notification> shown;
     std::function<void(const std::string&)> clicked;
     std::uint64_t lastToken = 0;
     QThread* thread = nullptr;
@@ -57,11 +57,17 @@ struct DesktopNotifier::State {
     }
 
     void ended(std::uint64_t token, NotificationBus::End end, const QString& activation) {
-        const auto undo = undos.extract(token);
-        if (end == NotificationBus::End::undo && undo)
-            undo.mapped()();
-        if (end == NotificationBus::End::clicked && clicked)
-            clicked(activation.toStdString());
+        const auto known = shown.extract(token);
+        if (!known)
+            return;
+        const Notification& notification = known.mapped();
+        if (end == NotificationBus::End::undo && notification.undo)
+            notification.undo();
+        if (end != NotificationBus::End::clicked || !clicked)
+            return;
+        if (notification.show)
+            notification.show();
+        clicked(activation.toStdString());
     }
 };
 
@@ -84,8 +90,7 @@ void DesktopNotifier::post(const Notification& notification) {
                                      .body = notification.body,
                                      .offersUndo = bool(notification.undo),
                                      .canBeClicked = bool(state.clicked)};
-    if (notification.undo)
-        state.undos.emplace(request.token, notification.undo);
+    state.shown.emplace(request.token, notification);
     QMetaObject::invokeMethod(state.bus, [bus = state.bus, request] { bus->show(request); });
 }
 

@@ -51,9 +51,13 @@ public:
     static void registerTypes();
 
     void setItems(std::vector<TrayMenuItem> items);
+    /// Before it is registered.
+    void setRightToLeft(bool isRightToLeft) { isRightToLeft_ = isRightToLeft; }
 
     [[nodiscard]] uint version() const { return 3; }
-    [[nodiscard]] QString textDirection() const { return QStringLiteral("ltr"); }
+    [[nodiscard]] QString textDirection() const {
+        return isRightToLeft_ ? QStringLiteral("rtl") : QStringLiteral("ltr");
+    }
     [[nodiscard]] QString status() const { return QStringLiteral("normal"); }
     [[nodiscard]] QStringList iconThemePath() const { return {}; }
 
@@ -77,6 +81,7 @@ private:
 
     std::vector<TrayMenuItem> items_;
     uint revision_ = 1;
+    bool isRightToLeft_ = false;
 };
 
 } // namespace quillon

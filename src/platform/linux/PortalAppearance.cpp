@@ -68,6 +68,8 @@ PortalAppearance::PortalAppearance(DesktopBus& bus, const std::string& configHom
     bus.whenConnected([this](std::optional<QDBusConnection> connection) {
         if (!connection)
             return;
+        // A signal can't be connected to a type that hasn't been named yet.
+        qRegisterMetaType<QDBusVariant>();
         connection->connect(portalName, portalPath, settingsInterface, u"SettingChanged"_s, this,
                             SLOT(settingChanged(QString, QString, QDBusVariant)));
         for (const Key& key : keys)

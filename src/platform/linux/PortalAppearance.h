@@ -27,7 +27,6 @@ private:
 
     Wishes wishes_;
     std::function<void()> changed_;
-    std::optional<QDBusConnection> connection_;
 };
 
 } // namespace quillon

@@ -3,6 +3,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QUuid>
 
 namespace quillon {
@@ -54,6 +55,10 @@ void PortalRequest::handled(const QDBusMessage& reply) {
     const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
     if (path != path_)
         listenAt(path);
+    // Its dialogue goes with it, and there will be no answer.
+    const auto* const watcher = new QDBusServiceWatcher(
+        portalName, connection_, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { respond(2, {}); });
 }
 
 void PortalRequest::respond(uint response, const QVariantMap& results) {

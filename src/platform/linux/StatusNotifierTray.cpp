@@ -21,6 +21,7 @@ void StatusNotifierTray::start(const TrayLook& look, std::vector<TrayMenuItem> m
     handlers_ = std::move(handlers);
     item_.setLook(look);
     item_.onActivated = handlers_.activated;
+    menu_.setRightToLeft(look.isRightToLeft);
     menu_.setItems(std::move(menu));
     bus_.whenConnected([this](std::optional<QDBusConnection> connection) {
         if (connection)

@@ -13,7 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 ChatModel::ChatModel(Surroundings around, QObject* parent)
     : QObject(parent), around_(std::move(around)), place_(tr("On this computer")) {
-    connect(&around_.store, &AppStore::recentLogsChanged, this, &ChatModel::refresh);
+    for (const auto signal : {&AppStore::recentLogsChanged, &AppStore::dayChanged})
+        connect(&around_.store, signal, this, &ChatModel::refresh);
     connect(&around_.sheets, &Sheets::currentChanged, this, &ChatModel::sheetChanged);
     if (settingTruth(around_.settings, u"dobbin.panelOpen"))
         setOpen(true);

@@ -56,7 +56,7 @@ void OnDeviceCard::download() {
     progress_ = {};
     const QString model = wantedModel();
     if (namesElsewhere(model)) {
-        failure_ = statusOf({.kind = Kind::elsewhere, .name = model}).message;
+        failure_ = statusOf({.kind = Kind::elsewhere, .name = model}, SaidIn::window).message;
         Q_EMIT changed();
         return;
     }
@@ -149,7 +149,7 @@ QString OnDeviceCard::text() const {
     case Kind::notInstalled:
         return tr("Dobbin needs a one-off download before he can help.");
     default:
-        return statusOf(*state_).message;
+        return statusOf(*state_, SaidIn::window).message;
     }
 }
 

@@ -15,6 +15,7 @@ RuleDrafting::RuleDrafting(Surroundings around, QObject* parent)
 RuleDrafting::~RuleDrafting() {
     *isWanted_ = false;
     *isAlive_ = false;
+    asking_.request_stop();
 }
 
 void RuleDrafting::open(RulePlace place, const QString& sentence) {
@@ -71,8 +72,9 @@ QCoro::Task<> RuleDrafting::lookWhetherAvailable() {
 
 QCoro::Task<> RuleDrafting::ask(QString sentence) {
     const auto isWanted = newLife();
-    const Expected<QString> answer =
-        co_await around_.assistant().send(ruleRequest(sentence, place_));
+    AIRequest request = ruleRequest(sentence, place_);
+    request.stop = asking_.get_token();
+    const Expected<QString> answer = co_await around_.assistant().send(std::move(request));
     if (!*isWanted)
         co_return;
     if (answer)
@@ -122,6 +124,7 @@ void RuleDrafting::fail(const QString& sentence) {
 std::shared_ptr<bool> RuleDrafting::newLife() {
     *isWanted_ = false;
     isWanted_ = std::make_shared<bool>(true);
+    std::exchange(asking_, std::stop_source()).request_stop();
     return isWanted_;
 }
 

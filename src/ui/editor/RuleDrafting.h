@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <stop_token>
 
 namespace quillon {
 
@@ -76,6 +77,7 @@ private:
     QStringList warnings_;
     QString error_;
     QString unavailable_;
+    std::stop_source asking_; ///< a model
     std::shared_ptr<bool> isWanted_ = std::make_shared<bool>(true);
     std::shared_ptr<bool> isAlive_ = std::make_shared<bool>(true);
 };

@@ -9,6 +9,7 @@
 #include "platform/FileNames.h"
 #include "store/RuleEdits.h"
 #include "ui/FolderNames.h"
+#include "ui/RuleRemoval.h"
 #include "ui/editor/EditedRows.h"
 #include "ui/editor/Shortcuts.h"
 
@@ -24,6 +25,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QStringView arrow = u" → ";
+/// So that what is edited keeps its room above them.
+constexpr qsizetype warningsShown = 4;
 
 RulePlace placeOf(const QUuid& folderID, const AppStore& store) {
     RulePlace place;
@@ -243,7 +246,13 @@ QString RuleEditor::sentence() const {
 }
 
 QStringList RuleEditor::warnings() const {
-    return validationWarnings(draft_) + valueWarnings(draft_);
+    QStringList told = validationWarnings(draft_) + valueWarnings(draft_);
+    told.removeDuplicates();
+    if (const qsizetype more = told.size() - warningsShown; more > 0) {
+        told.resize(warningsShown);
+        told.append(tr("and %L1 more").arg(more));
+    }
+    return told;
 }
 
 void RuleEditor::draftEdited() {
@@ -421,19 +430,10 @@ void RuleEditor::deleteRule() {
     const Rule* const saved = savedRule();
     if (!opened_ || isNew_ || !saved)
         return;
-    const Rule rule = *saved;
+    const QUuid ruleID = saved->id;
     const QUuid folderID = folderID_;
-    const auto& rules = store_.folder(folderID)->rules;
-    const auto next = std::ranges::find(rules, rule.id, &Rule::id) + 1;
-    const QUuid before = next == rules.end() ? QUuid() : next->id;
     around_.sheets.close();
-    store_.deleteRule(rule.id, folderID);
-    around_.toasts.show(tr("“%1” deleted").arg(rule.name), tr("Undo"),
-                        [&store = store_, rule, folderID, before] {
-                            store.saveRule(rule, folderID);
-                            if (!before.isNull())
-                                store.moveRuleBefore(before, rule.id, folderID);
-                        });
+    removeRule(ruleID, folderID, store_, around_.toasts);
 }
 
 } // namespace quillon

@@ -2,12 +2,12 @@
 
 #include "platform/FileChooser.h"
 #include "store/AppStore.h"
+#include "ui/Question.h"
 #include "ui/Sheets.h"
 #include "ui/Toasts.h"
 #include "ui/editor/ActionListModel.h"
 #include "ui/editor/CalendarMonth.h"
 #include "ui/editor/ConditionListModel.h"
-#include "ui/editor/Question.h"
 #include "ui/editor/RuleDrafting.h"
 #include "ui/editor/RuleProbe.h"
 

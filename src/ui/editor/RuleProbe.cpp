@@ -17,13 +17,12 @@ constexpr auto stillness = 1s;
 } // namespace
 
 RuleProbe::RuleProbe(Surroundings around, QObject* parent)
-    : QObject(parent), around_(std::move(around)) {}
+    : QObject(parent)
+    , around_(std::move(around))
+    , listing_(around_.background)
+    , looking_(around_.background) {}
 
-RuleProbe::~RuleProbe() {
-    giveUp();
-    if (isListingWanted_)
-        *isListingWanted_ = false;
-}
+RuleProbe::~RuleProbe() = default;
 
 void RuleProbe::open(const WatchedFolder& folder) {
     close();
@@ -47,9 +46,7 @@ void RuleProbe::setRule(const Rule& rule) {
 
 void RuleProbe::close() {
     giveUp();
-    if (isListingWanted_)
-        *isListingWanted_ = false;
-    isListingWanted_.reset();
+    listing_.drop();
     untilSpoken_.reset();
     rule_.reset();
     // Letting go of so many names takes a while, too.
@@ -89,28 +86,17 @@ QStringList RuleProbe::names() const {
 }
 
 void RuleProbe::list(const WatchedFolder& folder) {
-    struct Listed {
-        Expected<ReadyFiles> files;
-    };
-    const auto wanted = std::make_shared<std::atomic<bool>>(true);
-    const auto listed = std::make_shared<Listed>();
-    isListingWanted_ = wanted;
-    around_.background.start(
-        [wanted, listed, folder, &platform = around_.platform, make = around_.makeJudge] {
-            if (*wanted)
-                listed->files = RuleEngine(platform, *make()).readyFiles(folder);
-        },
-        [this, wanted, listed] {
-            if (!*wanted)
-                return;
-            if (!listed->files) {
-                error_ = tr("%1 can’t be read: %2", "a folder, and why")
-                             .arg(folderName_, listed->files.error().message);
-                return setCounting(false);
-            }
-            files_ = std::make_shared<const ReadyFiles>(*std::move(listed->files));
-            look();
-        });
+    listing_.start([folder, &platform = around_.platform, make = around_.makeJudge](
+                       const auto&) { return RuleEngine(platform, *make()).readyFiles(folder); },
+                   [this](Expected<ReadyFiles> files) {
+                       if (!files) {
+                           error_ = tr("%1 can’t be read: %2", "a folder, and why")
+                                        .arg(folderName_, files.error().message);
+                           return setCounting(false);
+                       }
+                       files_ = std::make_shared<const ReadyFiles>(*std::move(files));
+                       look();
+                   });
 }
 
 void RuleProbe::look() {
@@ -118,21 +104,14 @@ void RuleProbe::look() {
     if (!files_ || !rule_)
         return;
     giveUp();
-    struct Seen {
-        std::optional<RuleCatch> found;
-    };
-    const auto wanted = std::make_shared<std::atomic<bool>>(true);
-    const auto seen = std::make_shared<Seen>();
-    isLookWanted_ = wanted;
-    around_.background.start(
-        [wanted, seen, rule = *rule_, files = files_, &platform = around_.platform,
-         make = around_.makeJudge] {
-            const auto mayContinue = [&] { return wanted->load(); };
-            seen->found = ruleCatch(rule, *files, platform, *make(), mayContinue);
+    looking_.start(
+        [rule = *rule_, files = files_, &platform = around_.platform,
+         make = around_.makeJudge](const LatestWork::MayContinue& mayContinue) {
+            return ruleCatch(rule, *files, platform, *make(), mayContinue);
         },
-        [this, wanted, seen] {
-            if (*wanted && seen->found)
-                show(std::move(seen->found));
+        [this](std::optional<RuleCatch> found) {
+            if (found)
+                show(std::move(found));
         });
     untilCounting_ = around_.timers.after(shortWork, [this] { setCounting(true); });
 }
@@ -140,9 +119,7 @@ void RuleProbe::look() {
 void RuleProbe::giveUp() {
     untilLook_.reset();
     untilCounting_.reset();
-    if (isLookWanted_)
-        *isLookWanted_ = false;
-    isLookWanted_.reset();
+    looking_.drop();
 }
 
 void RuleProbe::show(std::optional<RuleCatch> found) {

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "model/WatchedFolder.h"
-#include "platform/Background.h"
 #include "platform/Timers.h"
+#include "ui/LatestWork.h"
 #include "ui/editor/RuleCatch.h"
 
 #include <QObject>
 
-#include <atomic>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -65,8 +64,8 @@ private:
     void setCounting(bool counting);
 
     Surroundings around_;
-    std::shared_ptr<std::atomic<bool>> isListingWanted_;
-    std::shared_ptr<std::atomic<bool>> isLookWanted_;
+    LatestWork listing_;
+    LatestWork looking_;
     Files files_; ///< none before they are listed
     std::optional<Rule> rule_;
     std::unique_ptr<Timer> untilLook_;

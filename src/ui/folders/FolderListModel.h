@@ -5,8 +5,8 @@
 #include "platform/FileSystem.h"
 #include "store/AppStore.h"
 #include "ui/KeyedRows.h"
+#include "ui/Question.h"
 #include "ui/Toasts.h"
-#include "ui/editor/Question.h"
 #include "ui/folders/FolderRow.h"
 
 #include <QList>

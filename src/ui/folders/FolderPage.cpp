@@ -3,6 +3,7 @@
 #include "model/Uuid.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
+#include "store/Attention.h"
 #include "ui/CountTexts.h"
 #include "ui/FolderLook.h"
 #include "ui/TimeTexts.h"
@@ -41,7 +42,9 @@ FolderPage::FolderPage(const Surroundings& around, QObject* parent)
     connect(&store, &AppStore::runFinished, this, &FolderPage::endRun);
     minutes_ = around_.timers.every(1min, [this] {
         refresh();
-        countFiles();
+        // What changes in a live folder sets off a run, and a run a count.
+        if (folder() && (folder()->timing() != TidyTiming::live || around_.store.isPaused()))
+            countFiles();
     });
     refresh();
 }
@@ -57,8 +60,7 @@ QString FolderPage::name() const {
 }
 
 int FolderPage::tint() const {
-    return folder() ? lookOf(*folder(), std::size_t(folder() - around_.store.folders().data())).tint
-                    : 0;
+    return folder() ? lookOf(*folder(), around_.store.folders()).tint : 0;
 }
 
 QString FolderPage::symbol() const {
@@ -117,7 +119,7 @@ void FolderPage::setRecursive(bool isRecursive) {
 }
 
 void FolderPage::setOnlyNewFiles(bool onlyNew) {
-    if (folder() && onlyNew != folder()->onlyNewFiles)
+    if (folder() && onlyNew != onlyNewFiles())
         around_.store.setOnlyNewFiles(onlyNew, folder()->id);
 }
 
@@ -404,7 +406,8 @@ void FolderPage::refreshBanner() {
         break;
     case Trouble::errors:
         banner_ = warn(tr("%1 couldn’t be filed today", "a number of files")
-                           .arg(fileCount(store.recentErrorCount(folder()->id))),
+                           .arg(fileCount(recentFailureCount(store.recentLogs(), folder()->id,
+                                                             around_.platform.clock.now()))),
                        {tr("Show Errors")});
         banner_.kind = u"error"_s;
         break;

@@ -78,7 +78,9 @@ public:
     void setTiming(int index);
     [[nodiscard]] bool isRecursive() const { return folder() && folder()->isRecursive; }
     void setRecursive(bool isRecursive);
-    [[nodiscard]] bool onlyNewFiles() const { return folder() && folder()->onlyNewFiles; }
+    [[nodiscard]] bool onlyNewFiles() const {
+        return folder() && around_.store.wantsOnlyNewFiles(folder()->id);
+    }
     void setOnlyNewFiles(bool onlyNew);
     [[nodiscard]] bool skipsOnlineOnly() const { return folder() && folder()->skipOnlineOnly; }
     void setSkipsOnlineOnly(bool skip);

@@ -4,6 +4,7 @@
 #include "engine/RuleSummary.h"
 #include "model/Uuid.h"
 #include "ui/ActionIcon.h"
+#include "ui/RuleRemoval.h"
 #include "ui/editor/EditedRows.h"
 
 #include <algorithm>
@@ -27,8 +28,10 @@ RuleListModel::RuleListModel(AppStore& store, Toasts& toasts, QObject* parent)
 void RuleListModel::show(const QUuid& folderID) {
     folderID_ = folderID;
     const WatchedFolder* const folder = store_.folder(folderID);
+    const std::vector<Rule> none;
+    const std::vector<Rule>& rules = folder ? folder->rules : none;
     std::vector<RuleRow> next;
-    for (const Rule& rule : folder ? folder->rules : std::vector<Rule>()) {
+    for (const Rule& rule : rules) {
         const QString sentence = summary(rule);
         RuleRow row{.key = uuidText(rule.id),
                     .name = rule.name,
@@ -40,7 +43,7 @@ void RuleListModel::show(const QUuid& folderID) {
                     .asksDobbin = rule.needsDobbin(),
                     .isEnabled = rule.isEnabled};
         const QString place =
-            tr("Rule %1 of %2", "of a list").arg(next.size() + 1).arg(folder->rules.size());
+            tr("Rule %1 of %2", "of a list").arg(next.size() + 1).arg(rules.size());
         QStringList facts{sentence, (rule.isEnabled ? tr("%1, on", "“Rule 2 of 4”, switched on")
                                                     : tr("%1, off", "“Rule 2 of 4”, switched off"))
                                         .arg(place)};
@@ -60,23 +63,7 @@ void RuleListModel::duplicate(const QString& key) {
 }
 
 void RuleListModel::remove(const QString& key) {
-    const WatchedFolder* const folder = store_.folder(folderID_);
-    if (!folder)
-        return;
-    const auto found = std::ranges::find(folder->rules, idOf(key), &Rule::id);
-    if (found == folder->rules.end())
-        return;
-    Rule rule = *found;
-    const auto next = found + 1;
-    const QUuid before = next == folder->rules.end() ? QUuid() : next->id;
-    store_.deleteRule(rule.id, folderID_);
-    const QString sentence = tr("“%1” deleted").arg(rule.name);
-    toasts_.show(sentence, tr("Undo"),
-                 [&store = store_, rule = std::move(rule), folderID = folderID_, before] {
-                     store.saveRule(rule, folderID);
-                     if (!before.isNull())
-                         store.moveRuleBefore(before, rule.id, folderID);
-                 });
+    removeRule(idOf(key), folderID_, store_, toasts_);
 }
 
 void RuleListModel::moveTo(const QString& key, int row) {

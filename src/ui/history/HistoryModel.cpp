@@ -1,7 +1,8 @@
 #include "ui/history/HistoryModel.h"
 
 #include "model/Uuid.h"
-#include "ui/CountTexts.h"
+#include "ui/ProgressRelay.h"
+#include "ui/UndoTexts.h"
 
 #include <QPointer>
 
@@ -17,8 +18,9 @@ constexpr QLatin1StringView sheetName("HistorySheet");
 
 HistoryModel::HistoryModel(const Surroundings& around, QObject* parent)
     : KeyedRows(parent), around_(around) {
-    connect(&around.store, &AppStore::recentLogsChanged, this, &HistoryModel::refresh);
-    connect(&around.store, &AppStore::foldersChanged, this, &HistoryModel::refresh);
+    for (const auto signal :
+         {&AppStore::recentLogsChanged, &AppStore::foldersChanged, &AppStore::dayChanged})
+        connect(&around.store, signal, this, &HistoryModel::refresh);
     connect(&around.sheets, &Sheets::currentChanged, this, [this] {
         if (isShown_ && around_.sheets.current() != sheetName) {
             isShown_ = false;
@@ -134,12 +136,11 @@ void HistoryModel::undoBatch(const QString& key) {
             if (self)
                 self->undoEnded(id, report);
         },
-        [self, id = *batchID, &background = around_.background](std::size_t done, std::size_t all) {
-            background.post([self, id, done, all] {
-                if (self)
-                    self->undoProgressed(id, {.done = done, .total = all});
-            });
-        },
+        relayed(around_.background,
+                [self, id = *batchID](std::size_t done, std::size_t all) {
+                    if (self)
+                        self->undoProgressed(id, {.done = done, .total = all});
+                }),
         [mayContinue] { return mayContinue->load(); });
 }
 
@@ -159,12 +160,8 @@ void HistoryModel::undoProgressed(const QUuid& batchID, UndoProgress progress) {
 void HistoryModel::undoEnded(const QUuid& batchID, const AppStore::UndoReport& report) {
     undoing_.remove(batchID);
     refresh();
-    const auto restored = std::size_t(std::ranges::count_if(
-        report.outcomes, [](const UndoOutcome& outcome) { return outcome.restored.has_value(); }));
-    if (report.unsaved)
-        around_.toasts.show(report.unsaved->message);
-    else if (!report.outcomes.empty())
-        around_.toasts.show(putBackText(restored, report.outcomes.size() - restored));
+    if (const QString text = undoText(report); !text.isEmpty())
+        around_.toasts.show(text);
 }
 
 QString HistoryModel::newestUndoable() const {

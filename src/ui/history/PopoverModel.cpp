@@ -3,7 +3,6 @@
 #include "model/Uuid.h"
 #include "store/Schedules.h"
 #include "ui/CountTexts.h"
-#include "ui/FileKindWord.h"
 #include "ui/FolderLook.h"
 #include "ui/TimeTexts.h"
 
@@ -21,13 +20,10 @@ constexpr std::size_t entriesShown = 3;
 constexpr auto untilToldOf = 300ms;
 constexpr auto outcomeStays = 6s;
 
-PopoverEntry entryRow(const LogEntry& entry, Timestamp now) {
-    return {.key = uuidText(entry.id),
-            .fileName = entry.fileName,
-            .kind = fileKindWord(entry.fileName),
-            .secondLine = entry.actionSummary,
-            .timeText = entryTimeText(entry.date, now),
-            .isError = entry.isError};
+ActivityEntry entryRow(const LogEntry& entry, Timestamp now) {
+    ActivityEntry row = activityEntry(entry, now);
+    row.secondLine = entry.actionSummary; // there is no room for the rule
+    return row;
 }
 
 } // namespace
@@ -135,7 +131,7 @@ void PopoverModel::refresh() {
         statusText_ = tr("Paused · %1", "what else there is to say").arg(statusText_);
     folders_.setRows(folders);
 
-    std::vector<PopoverEntry> entries;
+    std::vector<ActivityEntry> entries;
     for (const LogEntry& entry : store_.recentLogs() | std::views::take(entriesShown))
         entries.push_back(entryRow(entry, clock_.now()));
     entries_.setRows(entries);

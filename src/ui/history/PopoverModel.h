@@ -4,7 +4,8 @@
 #include "platform/Timers.h"
 #include "store/AppStore.h"
 #include "ui/KeyedRows.h"
-#include "ui/history/PopoverRows.h"
+#include "ui/folders/ActivityEntry.h"
+#include "ui/history/PopoverFolder.h"
 
 #include <map>
 #include <memory>
@@ -83,7 +84,7 @@ private:
     bool isTrouble_ = false;
     QString statusText_;
     KeyedRows<PopoverFolder> folders_;
-    KeyedRows<PopoverEntry> entries_;
+    KeyedRows<ActivityEntry> entries_;
     std::unique_ptr<Timer> minutes_;
     std::map<QUuid, Run> runs_;
     std::map<QUuid, Outcome> outcomes_;

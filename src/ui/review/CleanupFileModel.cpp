@@ -78,8 +78,7 @@ std::vector<CleanupFileModel::Row> CleanupFileModel::rowsFor(const Contents& con
             continue;
         const std::size_t head = rows.size();
         for (const std::uint32_t file : contents.groups[r].files) {
-            if (!contents.filter.isEmpty() &&
-                !nameOf(contents.files->files[file]).contains(contents.filter, Qt::CaseInsensitive))
+            if (contents.passing && !(*contents.passing)[file])
                 continue;
             if (rows.size() == head)
                 rows.push_back({.recipe = std::uint8_t(r)});

@@ -27,7 +27,7 @@ public:
         std::vector<Rule> rules; ///< one a recipe
         std::vector<bool> shown; ///< one a recipe
         std::vector<bool> unticked;
-        QString filter;
+        std::shared_ptr<const std::vector<bool>> passing; ///< by file; none: all of them
         int thisYear = 0;
     };
     /// Rows that stay where they were are not touched.

@@ -1,16 +1,12 @@
 #pragma once
 
-#include "model/CleanupChoice.h"
-#include "platform/Background.h"
 #include "platform/FileManager.h"
-#include "platform/Timers.h"
 #include "store/AppStore.h"
-#include "ui/KeyedRows.h"
+#include "ui/FolderLook.h"
 #include "ui/Sheets.h"
 #include "ui/Toasts.h"
-#include "ui/review/CleanupFileModel.h"
 #include "ui/review/CleanupResult.h"
-#include "ui/review/RecipeRow.h"
+#include "ui/review/CleanupReview.h"
 
 #include <QObject>
 
@@ -77,7 +73,7 @@ public:
     Q_INVOKABLE void tickAll();
     Q_INVOKABLE void reveal(int row);
     /// The row of the recipe's head; -1 when it has none.
-    Q_INVOKABLE int headOf(int recipe) const { return files_.headOf(recipe); }
+    Q_INVOKABLE int headOf(int recipe) const { return review_.files().headOf(recipe); }
 
     Q_INVOKABLE void tidy();
     /// What was filed by then stays so.
@@ -89,20 +85,20 @@ public:
     /// "looking", "failed", "review", "tidying", "result", "undoing", or "" when there is none.
     [[nodiscard]] QString state() const;
     [[nodiscard]] QString folderName() const { return folder_.name(); }
-    [[nodiscard]] int tint() const { return tint_; }
-    [[nodiscard]] QString symbol() const { return symbol_; }
-    [[nodiscard]] QAbstractItemModel* recipes() { return &recipes_; }
-    [[nodiscard]] QAbstractItemModel* files() { return &files_; }
-    [[nodiscard]] QString filterText() const { return filter_; }
+    [[nodiscard]] int tint() const { return look_.tint; }
+    [[nodiscard]] QString symbol() const { return look_.symbol; }
+    [[nodiscard]] QAbstractItemModel* recipes() { return &review_.recipes(); }
+    [[nodiscard]] QAbstractItemModel* files() { return &review_.files(); }
+    [[nodiscard]] QString filterText() const { return review_.filterText(); }
     void setFilterText(const QString& words);
     /// Why no files are shown.
     [[nodiscard]] QString emptyText() const;
     /// Whether no recipe, ticked or not, would take any file.
-    [[nodiscard]] bool hasNothing() const;
+    [[nodiscard]] bool hasNothing() const { return isReviewing() && review_.hasNothing(); }
     /// "37 files ticked · 3.8 GB"
     [[nodiscard]] QString tickedText() const;
     [[nodiscard]] QString noteText() const;
-    [[nodiscard]] bool canTidy() const;
+    [[nodiscard]] bool canTidy() const { return isReviewing() && review_.canTidy(); }
     [[nodiscard]] double progress() const {
         return total_ == 0 ? 0 : double(done_) / double(total_);
     }
@@ -117,8 +113,8 @@ public:
     [[nodiscard]] QString keepText() const { return keepText_; }
 
     /// For tests.
-    [[nodiscard]] const CleanupFileModel& fileRows() const { return files_; }
-    [[nodiscard]] const KeyedRows<RecipeRow>& recipeRows() const { return recipes_; }
+    [[nodiscard]] const CleanupFileModel& fileRows() const { return review_.files(); }
+    [[nodiscard]] const KeyedRows<RecipeRow>& recipeRows() const { return review_.recipes(); }
     [[nodiscard]] const CleanupResult& result() const { return result_; }
 
 Q_SIGNALS:
@@ -127,49 +123,24 @@ Q_SIGNALS:
     void progressChanged();
 
 private:
-    enum class State { closed, listing, failed, review, tidying, result, undoing };
+    enum class State { closed, reviewing, tidying, result, undoing };
 
     void show(const WatchedFolder& folder);
-    void listed(Expected<ReadyFiles> files);
-    void count();
-    void counted(std::vector<RecipeBits> matches);
-    void layOut();
-    void showRecipes();
     void close();
-    void giveUp();
     void setState(State state);
     void progressed(std::size_t done, std::size_t total);
     void tidied(const AppStore::CleanupReport& report, const std::vector<Rule>& rules,
                 std::size_t ticked);
     void undone(const AppStore::UndoReport& report);
     [[nodiscard]] bool isShown() const;
-    [[nodiscard]] std::uint8_t chosenBits() const;
-    [[nodiscard]] std::vector<Rule> everyRule() const;
-    [[nodiscard]] std::size_t ticked() const;
-    [[nodiscard]] ReadyFiles tickedFiles() const;
+    [[nodiscard]] bool isReviewing() const { return state_ == State::reviewing; }
     [[nodiscard]] Progress reporter();
-    [[nodiscard]] std::vector<CleanupGroup> groups() const;
-    void ticksChanged();
 
     Surroundings around_;
     State state_ = State::closed;
     WatchedFolder folder_;
-    int tint_ = 0;
-    QString symbol_;
-    CleanupChoice choice_;
-    QHash<QUuid, CleanupChoice> remembered_; ///< by folder
-    std::shared_ptr<const ReadyFiles> ready_;
-    std::vector<std::uint32_t> order_;
-    std::vector<RecipeBits> matches_;
-    std::vector<bool> unticked_;
-    bool isCounting_ = false;   ///< what is matched is not what the days say
-    bool saysCounting_ = false; ///< for long enough to say so
-    QString filter_;
-    KeyedRows<RecipeRow> recipes_;
-    CleanupFileModel files_;
-    std::shared_ptr<std::atomic<bool>> isWanted_;
-    std::unique_ptr<Timer> untilCount_;
-    std::unique_ptr<Timer> untilWords_;
+    FolderLook look_;
+    CleanupReview review_;
 
     QUuid batchID_;
     std::size_t done_ = 0;

@@ -24,7 +24,7 @@ constexpr auto icons = std::to_array<std::u16string_view>({
 
 FolderLook lookIn(const AppStore& store, const QUuid& folderID) {
     const WatchedFolder* const folder = store.folder(folderID);
-    return folder ? lookOf(*folder, std::size_t(folder - store.folders().data())) : FolderLook();
+    return folder ? lookOf(*folder, store.folders()) : FolderLook();
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "ui/ActionIcon.h"
 #include "ui/CountTexts.h"
 #include "ui/FileKindWord.h"
-#include "ui/FolderLook.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,19 +30,49 @@ enum Role {
     spokenRole,
 };
 
+std::vector<std::uint32_t> filesOf(FileFate fate, const RunForecast& forecast) {
+    std::vector<std::uint32_t> rows;
+    for (std::size_t i = 0; i < forecast.files.size(); ++i)
+        if (forecast.files[i].fate == fate)
+            rows.push_back(std::uint32_t(i));
+    return rows;
+}
+
+/// Those whose name, rule or actions hold the words.
+std::vector<std::uint32_t> filesHolding(const QString& words, FileFate fate,
+                                        const RunForecast& forecast, const std::vector<Rule>& rules,
+                                        const LatestWork::MayContinue& mayContinue) {
+    constexpr std::size_t atOnce = 4096;
+    const auto holds = [&](const QString& text) {
+        return text.contains(words, Qt::CaseInsensitive);
+    };
+    std::vector<bool> rulesHold;
+    for (const Rule& rule : rules)
+        rulesHold.push_back(holds(rule.name));
+    std::vector<std::uint32_t> rows;
+    for (std::size_t i = 0; i < forecast.files.size() && (i % atOnce != 0 || mayContinue()); ++i) {
+        const ForecastFile& file = forecast.files[i];
+        if (file.fate == fate && (holds(file.name) || std::ranges::any_of(file.actions, holds) ||
+                                  (file.rule >= 0 && rulesHold[std::size_t(file.rule)])))
+            rows.push_back(std::uint32_t(i));
+    }
+    return rows;
+}
+
 } // namespace
 
 PreviewModel::PreviewModel(Surroundings around, QObject* parent)
-    : QAbstractListModel(parent), around_(std::move(around)) {
+    : QAbstractListModel(parent)
+    , around_(std::move(around))
+    , looking_(around_.background)
+    , filtering_(around_.background) {
     connect(&around_.sheets, &Sheets::currentChanged, this, [this] {
         if (state_ != State::closed && around_.sheets.current() != sheetName)
             close();
     });
 }
 
-PreviewModel::~PreviewModel() {
-    giveUp();
-}
+PreviewModel::~PreviewModel() = default;
 
 void PreviewModel::open(const QString& folderId) {
     const auto id = uuidFromText(folderId);
@@ -53,11 +82,8 @@ void PreviewModel::open(const QString& folderId) {
     around_.sheets.open(sheetName);
     if (around_.sheets.current() != sheetName)
         return;
-    const auto& all = around_.store.folders();
-    const FolderLook looks = lookOf(*folder, std::size_t(folder - all.data()));
+    look_ = lookOf(*folder, around_.store.folders());
     folder_ = *folder;
-    tint_ = looks.tint;
-    symbol_ = looks.symbol;
     fate_ = FileFate::changed;
     filter_.clear();
     expected_ = 0;
@@ -70,28 +96,18 @@ void PreviewModel::look() {
     forget();
     if (const WatchedFolder* const folder = around_.store.folder(folder_.id))
         folder_ = *folder;
-    struct Seen {
-        Expected<RunForecast> forecast;
-    };
-    const auto wanted = std::make_shared<std::atomic<bool>>(true);
-    const auto seen = std::make_shared<Seen>();
-    isWanted_ = wanted;
     const QSet<QString> skip = folder_.onlyNewFiles
                                    ? around_.store.processedFiles().value(uuidText(folder_.id))
                                    : QSet<QString>();
-    around_.background.start(
-        [wanted, seen, skip, folder = folder_, &platform = around_.platform,
-         make = around_.makeJudge] {
-            if (*wanted)
-                seen->forecast =
-                    runForecast(folder, skip, platform, *make(), [&] { return wanted->load(); });
+    looking_.start(
+        [skip, folder = folder_, &platform = around_.platform,
+         make = around_.makeJudge](const LatestWork::MayContinue& mayContinue) {
+            return runForecast(folder, skip, platform, *make(), mayContinue);
         },
-        [this, wanted, seen] {
-            if (!*wanted)
-                return;
+        [this](Expected<RunForecast> forecast) {
             untilLooking_.reset();
-            if (seen->forecast)
-                show(*std::move(seen->forecast));
+            if (forecast)
+                show(*std::move(forecast));
             else
                 setState(State::failed);
         });
@@ -100,8 +116,8 @@ void PreviewModel::look() {
 }
 
 void PreviewModel::show(RunForecast forecast) {
-    forecast_ = std::move(forecast);
-    expected_ = forecast_.files.size();
+    forecast_ = std::make_shared<const RunForecast>(std::move(forecast));
+    expected_ = forecast_->files.size();
     state_ = State::shown;
     layOut();
 }
@@ -115,22 +131,21 @@ void PreviewModel::close() {
 
 /// What was foretold counts its rules as the folder had them then.
 void PreviewModel::forget() {
-    if (forecast_.files.empty())
+    if (forecast_->files.empty())
         return;
-    beginResetModel();
-    rows_.clear();
-    endResetModel();
+    setRows({});
     // Letting go of so many names takes a while.
-    around_.background.start([old = std::make_shared<RunForecast>(
-                                  std::exchange(forecast_, {}))]() mutable { old.reset(); },
-                             [] {});
+    around_.background.start(
+        [old = std::exchange(forecast_, std::make_shared<const RunForecast>())]() mutable {
+            old.reset();
+        },
+        [] {});
 }
 
 void PreviewModel::giveUp() {
     untilLooking_.reset();
-    if (isWanted_)
-        *isWanted_ = false;
-    isWanted_.reset();
+    looking_.drop();
+    filtering_.drop();
 }
 
 void PreviewModel::setState(State state) {
@@ -156,7 +171,7 @@ QString PreviewModel::emptyText() const {
         return {};
     if (!filter_.isEmpty())
         return tr("No files match.");
-    const auto waiting = forecast_.counts[std::size_t(FileFate::waiting)];
+    const auto waiting = forecast_->counts[std::size_t(FileFate::waiting)];
     switch (fate_) {
     case FileFate::leftAlone:
         return tr("No file would be left alone.");
@@ -165,19 +180,19 @@ QString PreviewModel::emptyText() const {
     case FileFate::changed:
         break;
     }
-    if (forecast_.files.empty())
+    if (forecast_->files.empty())
         return tr("Nothing would change. There are no files to check in %1.").arg(folder_.name());
     if (waiting > 0)
         return tr("Nothing would change yet. Dobbin has to look at %1 first.", "a number of files")
             .arg(fileCount(waiting));
-    if (forecast_.files.size() == 1)
+    if (forecast_->files.size() == 1)
         return tr("Nothing would change. No rule matches this file.");
     return tr("Nothing would change. No rule matches these %1.", "a number of files")
-        .arg(fileCount(forecast_.files.size()));
+        .arg(fileCount(forecast_->files.size()));
 }
 
 QStringList PreviewModel::fates() const {
-    const auto& counts = forecast_.counts;
+    const auto& counts = forecast_->counts;
     if (state_ != State::shown)
         return {tr("Would change"), tr("Left alone")};
     QStringList all{tr("Would change %L1").arg(counts[0]), tr("Left alone %L1").arg(counts[1])};
@@ -199,31 +214,37 @@ void PreviewModel::setFilterText(const QString& words) {
 }
 
 bool PreviewModel::canRun() const {
-    const auto& counts = forecast_.counts;
+    const auto& counts = forecast_->counts;
     return state_ == State::shown && counts[0] + counts[2] > 0;
 }
 
+/// What is shown stays until it is known which files the words fit.
 void PreviewModel::layOut() {
-    const auto holds = [this](const QString& text) {
-        return text.contains(filter_, Qt::CaseInsensitive);
-    };
-    const auto fits = [&](const ForecastFile& file) {
-        if (file.fate != fate_)
-            return false;
-        return filter_.isEmpty() || holds(file.name) || std::ranges::any_of(file.actions, holds) ||
-               (file.rule >= 0 && holds(folder_.rules[std::size_t(file.rule)].name));
-    };
+    filtering_.drop();
+    if (filter_.isEmpty()) {
+        setRows(filesOf(fate_, *forecast_));
+        Q_EMIT changed();
+        return;
+    }
+    filtering_.start(
+        [forecast = forecast_, fate = fate_, words = filter_,
+         rules = folder_.rules](const LatestWork::MayContinue& mayContinue) {
+            return filesHolding(words, fate, *forecast, rules, mayContinue);
+        },
+        [this](std::vector<std::uint32_t> rows) {
+            setRows(std::move(rows));
+            Q_EMIT changed();
+        });
+}
+
+void PreviewModel::setRows(std::vector<std::uint32_t> rows) {
     beginResetModel();
-    rows_.clear();
-    for (std::size_t i = 0; i < forecast_.files.size(); ++i)
-        if (fits(forecast_.files[i]))
-            rows_.push_back(std::uint32_t(i));
+    rows_ = std::move(rows);
     endResetModel();
-    Q_EMIT changed();
 }
 
 const ForecastFile& PreviewModel::file(int row) const {
-    return forecast_.files[rows_[std::size_t(row)]];
+    return forecast_->files[rows_[std::size_t(row)]];
 }
 
 int PreviewModel::rowCount(const QModelIndex& parent) const {

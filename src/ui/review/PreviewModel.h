@@ -4,12 +4,13 @@
 #include "platform/Background.h"
 #include "platform/Timers.h"
 #include "store/AppStore.h"
+#include "ui/FolderLook.h"
+#include "ui/LatestWork.h"
 #include "ui/Sheets.h"
 #include "ui/review/RunForecast.h"
 
 #include <QAbstractListModel>
 
-#include <atomic>
 #include <memory>
 
 namespace quillon {
@@ -53,8 +54,8 @@ public:
 
     [[nodiscard]] QString folderID() const;
     [[nodiscard]] QString title() const;
-    [[nodiscard]] int tint() const { return tint_; }
-    [[nodiscard]] QString symbol() const { return symbol_; }
+    [[nodiscard]] int tint() const { return look_.tint; }
+    [[nodiscard]] QString symbol() const { return look_.symbol; }
     /// For long enough to say so.
     [[nodiscard]] bool isLooking() const { return state_ == State::looking; }
     [[nodiscard]] bool hasFailed() const { return state_ == State::failed; }
@@ -86,20 +87,21 @@ private:
     void giveUp();
     void forget();
     void layOut();
+    void setRows(std::vector<std::uint32_t> rows);
     void setState(State state);
     [[nodiscard]] const ForecastFile& file(int row) const;
 
     Surroundings around_;
     State state_ = State::closed;
     WatchedFolder folder_;
-    int tint_ = 0;
-    QString symbol_;
+    FolderLook look_;
     std::size_t expected_ = 0; ///< files, as last counted; 0 when not known yet
-    RunForecast forecast_;
+    std::shared_ptr<const RunForecast> forecast_ = std::make_shared<const RunForecast>();
     FileFate fate_ = FileFate::changed;
     QString filter_;
     std::vector<std::uint32_t> rows_; ///< of the forecast's files
-    std::shared_ptr<std::atomic<bool>> isWanted_;
+    LatestWork looking_;
+    LatestWork filtering_;
     std::unique_ptr<Timer> untilLooking_;
 };
 

@@ -1,7 +1,6 @@
 #include "ui/review/RunForecast.h"
 
-#include "engine/Actions.h"
-#include "engine/DateFormats.h"
+#include "engine/ActionForecast.h"
 #include "engine/FirstMatch.h"
 #include "platform/FileNames.h"
 #include "store/Sentences.h"
@@ -20,13 +19,15 @@ class Foreteller {
 public:
     Foreteller(const WatchedFolder& folder, const Platform& platform, FileJudge& judge,
                const std::string& path)
-        : platform_(platform), judge_(judge), path_(path), kinds_(platform.contentTypes) {
+        : platform_(platform)
+        , judge_(judge)
+        , path_(path)
+        , actions_(platform, judge, settings_, path) {
         for (std::size_t i = 0; i < folder.rules.size(); ++i)
             if (folder.rules[i].isEnabled) {
                 rules_.emplace_back(folder.rules[i]);
                 places_.push_back(int(i));
             }
-        counters_.resize(rules_.size());
     }
 
     void add(std::span<const ListedFile* const> files, RunForecast& forecast) {
@@ -45,22 +46,9 @@ private:
             told.fate = FileFate::waiting;
         if (!match.rule)
             return told;
-        const CompiledRule& rule = rules_[*match.rule];
-        FileFacts facts(platform_, kinds_, path_, file);
-        const ActionContext context{.platform = platform_,
-                                    .kinds = kinds_,
-                                    .dates = dates_,
-                                    .settings = settings_,
-                                    .path = facts.path(),
-                                    .status = file.status,
-                                    .counter = ++counters_[*match.rule],
-                                    .captures = rule.captures(facts),
-                                    .watchedFolder = path_,
-                                    .smartName = rule.smartName(judge_, facts)};
         told.fate = FileFate::changed;
         told.rule = places_[*match.rule];
-        for (const RuleAction& action : rule.rule().actions)
-            told.actions.append(describeAction(action, context));
+        told.actions = actions_.phrases(file, rules_[*match.rule]);
         return told;
     }
 
@@ -69,10 +57,8 @@ private:
     const std::string& path_;
     std::vector<CompiledRule> rules_;
     std::vector<int> places_; ///< of each among all rules
-    std::vector<unsigned> counters_;
-    KindClassifier kinds_;
-    DateFormats dates_;
     EngineSettings settings_;
+    ActionForecast actions_;
 };
 
 } // namespace

@@ -4,8 +4,10 @@
 #include "model/Uuid.h"
 #include "store/PersistedState.h"
 #include "ui/CountTexts.h"
+#include "ui/UndoTexts.h"
 
 #include <QPointer>
+#include <QSet>
 
 #include <algorithm>
 #include <utility>
@@ -45,6 +47,7 @@ SuggestionListModel::SuggestionListModel(Surroundings around, QObject* parent)
             refresh();
     });
     connect(&around_.store, &AppStore::runFinished, this, [this](const RunReport& report) {
+        noteDeeds(report);
         if (report.folderID == folderID_ && !report.run.entries.empty())
             refresh();
     });
@@ -116,27 +119,43 @@ void SuggestionListModel::add(const QString& key) {
     if (found == found_.end() || !around_.store.folder(folderID_))
         return;
     const Rule rule = found->rule;
-    const Timestamp now = around_.clock.now();
+    const auto deeds = std::make_shared<Deeds>(Deeds{.ruleID = rule.id, .folderID = folderID_});
+    deeds_ = deeds;
     around_.store.addRules({rule}, folderID_, RuleSource::suggestion);
     around_.toasts.show(tr("“%1” added").arg(rule.name), tr("Undo"),
-                        [this, rule, id = folderID_, now] { takeBack(rule, id, now); });
+                        [this, deeds] { takeBack(deeds); });
 }
 
-void SuggestionListModel::takeBack(const Rule& rule, const QUuid& folderID, Timestamp since) {
-    around_.store.deleteRule(rule.id, folderID);
-    std::vector<QUuid> done;
-    for (const LogEntry& entry : around_.store.recentLogs())
-        if (entry.folderID == folderID && entry.ruleName == rule.name && entry.canUndo() &&
-            entry.date >= since)
-            done.push_back(entry.id);
-    if (!done.empty())
-        around_.store.undo(std::move(done), [toasts = QPointer(&around_.toasts)](
-                                                const AppStore::UndoReport& report) {
-            const auto restored = std::size_t(std::ranges::count_if(
-                report.outcomes, [](const UndoOutcome& each) { return bool(each.restored); }));
-            if (toasts)
-                toasts->show(putBackText(restored, report.outcomes.size() - restored));
-        });
+/// Other rules may have the same name, and entries know no more of theirs.
+void SuggestionListModel::noteDeeds(const RunReport& report) {
+    const auto deeds = deeds_.lock();
+    if (!deeds || report.folderID != deeds->folderID)
+        return;
+    QSet<QString> files;
+    for (const HandledFile& file : report.run.handled)
+        if (file.ruleID == deeds->ruleID)
+            files.insert(keyPath(file.keyBefore));
+    for (const LogEntry& entry : report.run.entries)
+        if (entry.canUndo() && files.contains(*entry.originalPath))
+            deeds->entryIDs.push_back(entry.id);
+}
+
+void SuggestionListModel::takeBack(const std::shared_ptr<Deeds>& deeds) {
+    AppStore& store = around_.store;
+    store.deleteRule(deeds->ruleID, deeds->folderID);
+    // A run that is under way has the rule still.
+    store.afterRuns(store.lastRunNumber(), [self = QPointer(this), deeds] {
+        if (self && !deeds->entryIDs.empty())
+            self->putBack(std::move(deeds->entryIDs));
+    });
+}
+
+void SuggestionListModel::putBack(std::vector<QUuid> entryIDs) {
+    around_.store.undo(std::move(entryIDs),
+                       [toasts = QPointer(&around_.toasts)](const AppStore::UndoReport& report) {
+                           if (const QString text = undoText(report); toasts && !text.isEmpty())
+                               toasts->show(text);
+                       });
 }
 
 void SuggestionListModel::dismiss(const QString& key) {

@@ -69,9 +69,18 @@ Q_SIGNALS:
     void countChanged();
 
 private:
+    /// A rule that was added, with what it has done since.
+    struct Deeds {
+        QUuid ruleID;
+        QUuid folderID;
+        std::vector<QUuid> entryIDs = {};
+    };
+
     void look();
     void show(std::vector<RuleSuggestion> found);
-    void takeBack(const Rule& rule, const QUuid& folderID, Timestamp since);
+    void noteDeeds(const RunReport& report);
+    void takeBack(const std::shared_ptr<Deeds>& deeds);
+    void putBack(std::vector<QUuid> entryIDs);
 
     Surroundings around_;
     QUuid folderID_;
@@ -80,6 +89,7 @@ private:
     std::shared_ptr<bool> isWanted_; ///< what is being looked for
     std::optional<bool> areWanted_;
     std::unique_ptr<Timer> untilLook_;
+    std::weak_ptr<Deeds> deeds_; ///< of the last one that was added, while it can be taken back
 };
 
 } // namespace quillon

@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// kind: primary, secondary, dobbin, quiet, link or destructive.
+/// kind: primary, secondary, dobbin, plain (without a surface), quiet (so, too, but paler), link or
+/// destructive.
 T.Button {
     id: control
 
@@ -20,7 +21,7 @@ T.Button {
 
     readonly property bool filled: kind === "primary" || kind === "dobbin"
     readonly property color ink: enabled ? fullInk : Theme.faded(fullInk, Theme.bg)
-    readonly property color fullInk: kind === "primary" ? Theme.onAccent : kind === "dobbin" ? Theme.onDobbin : kind === "link" ? Theme.accent : kind === "destructive" ? Theme.error : kind === "quiet" ? Theme.text2 : Theme.text1
+    property color fullInk: kind === "primary" ? Theme.onAccent : kind === "dobbin" ? Theme.onDobbin : kind === "link" ? Theme.accent : kind === "destructive" ? Theme.error : kind === "quiet" ? Theme.text2 : Theme.text1
     readonly property var style: small ? (filled ? Theme.captionStrong : Theme.captionMedium) : filled ? Theme.bodyStrong : Theme.bodyMedium
     readonly property bool hasSymbol: iconName !== "" || glyph !== ""
     readonly property int symbolSize: small ? 14 : 16
@@ -35,13 +36,10 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     Keys.priority: Keys.BeforeItem
-    Keys.onPressed: event => event.accepted = busy && event.key === Qt.Key_Space
-    Keys.onReturnPressed: event => pressWith(event)
-    Keys.onEnterPressed: event => pressWith(event)
-
-    function pressWith(event) {
-        event.accepted = event.modifiers === Qt.NoModifier || event.modifiers === Qt.KeypadModifier;
-        if (event.accepted && !busy)
+    Keys.onPressed: event => {
+        const isEnter = Keystroke.isEnter(event);
+        event.accepted = isEnter || busy && event.key === Qt.Key_Space;
+        if (isEnter && !busy)
             clicked();
     }
 
@@ -134,14 +132,9 @@ T.Button {
         target: control
     }
 
-    Loader {
-        active: control.hovered && control.enabled && control.toolTip !== ""
-        sourceComponent: ToolTip {
-            parent: control
-            text: control.toolTip
-            shortcutText: control.shortcutText
-            visible: true
-        }
+    HoverTip {
+        text: control.toolTip
+        shortcutText: control.shortcutText
     }
 
     DisabledTip {

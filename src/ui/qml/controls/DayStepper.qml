@@ -33,7 +33,7 @@ T.SpinBox {
     Keys.onPressed: event => stepWith(event)
 
     function stepWith(event) {
-        const step = event.text === "+" ? 1 : event.text === "-" || event.text === "−" ? -1 : 0;
+        const step = Keystroke.step(event);
         event.accepted = step !== 0;
         if (step !== 0)
             stepBy(step);

@@ -9,6 +9,8 @@ FocusScope {
     property string placeholder
     property string label
     property string errorText
+    /// False where the error is said elsewhere.
+    property bool showsError: true
     property string iconName
     property bool monospaced: false
     property bool inRow: false
@@ -119,7 +121,7 @@ FocusScope {
 
         FieldError {
             width: parent.width
-            text: field.errorText
+            text: field.showsError ? field.errorText : ""
         }
     }
 }

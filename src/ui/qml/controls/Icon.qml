@@ -1,18 +1,5 @@
-import QtQuick
-
 /// An icon of the desktop's theme, in one colour.
-Image {
-    property string name
-    property color color: Theme.text1
-    property int size: 16
-    property bool mirrorsRightToLeft: false
-
-    width: size
-    height: size
-    sourceSize.width: size
-    sourceSize.height: size
-    source: name ? "image://icon/" + name + "/" + size + "/" + String(color).slice(1) : ""
-    mirror: mirrorsRightToLeft && LayoutMirroring.enabled
-    visible: name !== ""
-    Accessible.ignored: true
+Pictogram {
+    provider: "icon"
+    theme: Theme.desktop ? Theme.desktop.iconTheme : ""
 }

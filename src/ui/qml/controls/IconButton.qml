@@ -1,8 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// kind: secondary (32 pixels, outlined) or quiet (26 pixels, with a hit area of 32). The label is its
-/// name and its tooltip.
+/// kind: secondary (32 pixels, outlined), part (so, too, without the outline) or quiet (26 pixels, with a
+/// hit area of 32). The label is its name and its tooltip.
 T.Button {
     id: control
 
@@ -14,6 +14,8 @@ T.Button {
     property string disabledReason
     property bool busy: false
     property int iconSize: 16
+    /// For an arrow.
+    property bool mirrorsRightToLeft: false
     property int radius: kind === "quiet" ? Theme.rTile : Theme.rControl
     property color iconColor: kind === "quiet" ? Theme.text2 : Theme.text1
     property color fillColor: "transparent"
@@ -25,11 +27,8 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : Theme.disabledOpacity
     containmentMask: hitArea
-    Keys.onReturnPressed: event => pressWith(event)
-    Keys.onEnterPressed: event => pressWith(event)
-
-    function pressWith(event) {
-        event.accepted = event.modifiers === Qt.NoModifier || event.modifiers === Qt.KeypadModifier;
+    Keys.onPressed: event => {
+        event.accepted = Keystroke.isEnter(event);
         if (event.accepted && !busy)
             clicked();
     }
@@ -51,6 +50,7 @@ T.Button {
             glyph: control.glyph
             size: control.iconSize
             color: control.iconColor
+            mirrorsRightToLeft: control.mirrorsRightToLeft
         }
 
         Loader {
@@ -80,14 +80,9 @@ T.Button {
         target: control
     }
 
-    Loader {
-        active: control.hovered && control.enabled && control.label !== ""
-        sourceComponent: ToolTip {
-            parent: control
-            text: control.label
-            shortcutText: control.shortcutText
-            visible: true
-        }
+    HoverTip {
+        text: control.label
+        shortcutText: control.shortcutText
     }
 
     DisabledTip {

@@ -8,6 +8,7 @@ T.Menu {
     property string iconName
     /// What had the focus before, and gets it back unless an item gave it away.
     property Item opener
+    property bool isByKeys: false
 
     implicitWidth: Math.max(200, contentWidthOfItems + leftPadding + rightPadding)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
@@ -25,10 +26,17 @@ T.Menu {
 
     delegate: MenuItem {}
 
-    onAboutToShow: opener = parent ? parent.Window.activeFocusItem : null
+    onAboutToShow: {
+        opener = parent ? FocusReturn.openerOf(parent.menu ? parent : parent.Window.activeFocusItem) : null;
+        isByKeys = opener !== null && opener.visualFocus === true;
+    }
+    onOpened: {
+        if (isByKeys && currentIndex < 0)
+            goToEnd(1);
+    }
     onClosed: {
-        if (opener && opener.visible && isLeftBy(opener))
-            opener.forceActiveFocus(Qt.PopupFocusReason);
+        if (opener && isLeftBy(opener))
+            FocusReturn.giveTo(opener);
     }
 
     /// Whether the focus fell back to what that item lies in.
@@ -49,20 +57,33 @@ T.Menu {
         boundsBehavior: Flickable.StopAtBounds
         Keys.onPressed: event => {
             const letter = event.modifiers & ~Qt.ShiftModifier ? "" : event.text.trim().toLowerCase();
-            event.accepted = letter !== "" && menu.goTo(letter);
+            event.accepted = event.key === Qt.Key_Home ? menu.goToEnd(1) : event.key === Qt.Key_End ? menu.goToEnd(-1) : letter !== "" && menu.goTo(letter);
         }
+    }
+
+    function take(index) {
+        const item = itemAt(index);
+        if (!item || !item.enabled || !item.visible || !item.text)
+            return false;
+        currentIndex = index;
+        item.forceActiveFocus(Qt.TabFocusReason);
+        return true;
+    }
+
+    /// The first item becomes the current one; with -1 the last.
+    function goToEnd(step) {
+        for (let index = step > 0 ? 0 : count - 1; index >= 0 && index < count; index += step)
+            if (take(index))
+                return true;
+        return false;
     }
 
     /// The next item that begins with that letter becomes the current one.
     function goTo(letter) {
         for (let step = 1; step <= count; ++step) {
             const index = (Math.max(0, currentIndex) + step) % count;
-            const item = itemAt(index);
-            if (item && item.enabled && item.visible && item.text && item.text.toLowerCase().startsWith(letter)) {
-                currentIndex = index;
-                item.forceActiveFocus(Qt.TabFocusReason);
+            if (itemAt(index).text?.toLowerCase().startsWith(letter) && take(index))
                 return true;
-            }
         }
         return false;
     }

@@ -7,6 +7,9 @@ T.MenuItem {
     property string iconName: subMenu && subMenu.iconName !== undefined ? subMenu.iconName : ""
     property string shortcutText
     property bool destructive: false
+    /// One of several, or on and off. Which one is chosen is for whoever shows it to say.
+    property bool isChoice: false
+    property bool isChosen: false
     readonly property color ink: highlighted ? Theme.onAccent : destructive ? Theme.error : Theme.text1
 
     implicitHeight: visible ? Theme.rowMenu : 0
@@ -19,8 +22,8 @@ T.MenuItem {
 
     Accessible.role: Accessible.MenuItem
     Accessible.name: text
-    Accessible.checkable: checkable
-    Accessible.checked: checked
+    Accessible.checkable: isChoice
+    Accessible.checked: isChosen
     Accessible.onPressAction: triggered()
 
     contentItem: Item {
@@ -48,7 +51,7 @@ T.MenuItem {
             id: end
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            width: control.subMenu || control.checkable ? 14 : hint.implicitWidth
+            width: control.subMenu || control.isChoice ? 14 : hint.implicitWidth
             height: parent.height
 
             Label {
@@ -76,7 +79,7 @@ T.MenuItem {
     indicator: Glyph {
         x: control.mirrored ? control.leftPadding : control.width - width - control.rightPadding
         anchors.verticalCenter: parent.verticalCenter
-        visible: control.checked
+        visible: control.isChosen
         name: "tick"
         size: 12
         color: control.highlighted ? Theme.onAccent : Theme.accent

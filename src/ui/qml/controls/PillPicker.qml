@@ -40,19 +40,26 @@ T.ComboBox {
     // The release of the key would choose from a menu that its press opened.
     property bool opensOnRelease: false
 
-    function isReturn(event) {
-        return event.modifiers === Qt.NoModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter);
-    }
-
     Keys.onPressed: event => {
-        opensOnRelease = isReturn(event) && !popup.visible;
-        event.accepted = opensOnRelease;
+        opensOnRelease = Keystroke.isEnter(event) && !popup.visible;
+        event.accepted = opensOnRelease || openWith(event);
     }
     Keys.onReleased: event => {
-        event.accepted = opensOnRelease && isReturn(event);
+        event.accepted = opensOnRelease && Keystroke.isEnter(event);
         if (event.accepted)
             popup.open();
         opensOnRelease = false;
+    }
+
+    /// The keys that would choose another at once open the menu first; a letter then searches there.
+    function openWith(event) {
+        if (popup.visible || (event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier)) !== 0)
+            return false;
+        const isArrow = event.key === Qt.Key_Up || event.key === Qt.Key_Down;
+        const isEnd = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        if (isArrow || isEnd || /^[^\s\x00-\x1f\x7f]$/.test(event.text))
+            popup.open();
+        return isArrow;
     }
 
     Accessible.role: Accessible.ComboBox

@@ -61,16 +61,8 @@ Rectangle {
                 hoverEnabled: true
                 onClicked: control.choose(index, false)
                 Keys.onPressed: event => {
-                    const step = control.LayoutMirroring.enabled ? -1 : 1;
-                    const target = {
-                        [Qt.Key_Left]: index - step,
-                        [Qt.Key_Right]: index + step,
-                        [Qt.Key_Up]: index - 1,
-                        [Qt.Key_Down]: index + 1,
-                        [Qt.Key_Home]: 0,
-                        [Qt.Key_End]: repeater.count - 1
-                    }[event.key];
-                    event.accepted = target !== undefined && event.modifiers === Qt.NoModifier;
+                    const target = Keystroke.inRow(event, index, repeater.count, control.LayoutMirroring.enabled);
+                    event.accepted = target !== undefined;
                     if (event.accepted)
                         control.choose(target, true);
                 }

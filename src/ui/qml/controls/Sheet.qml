@@ -25,6 +25,7 @@ FocusScope {
     property alias note: note.data
     property alias footer: buttons.data
     readonly property alias panel: panel
+    readonly property alias scroller: scroller
     /// What had the focus before, and gets it back.
     property Item opener
     property var shownIn: null
@@ -66,16 +67,15 @@ FocusScope {
     Component.onCompleted: {
         shownIn = Window.window;
         const last = sheetOf(Window.activeFocusItem);
-        const focused = Window.activeFocusItem;
-        opener = last ? last.opener : focused && focused.menu ? focused.menu.opener : focused;
+        opener = last ? last.opener : FocusReturn.openerOf(Window.activeFocusItem);
         if (!activeFocus)
             forceActiveFocus(Qt.PopupFocusReason);
         entrance.start();
     }
     Component.onDestruction: {
         const now = shownIn ? shownIn.activeFocusItem : null;
-        if (opener && opener.visible && opener.enabled && (!now || !sheetOf(now) || sheetOf(now) === sheet))
-            opener.forceActiveFocus(Qt.PopupFocusReason);
+        if (!now || !sheetOf(now) || sheetOf(now) === sheet)
+            FocusReturn.giveTo(opener);
     }
 
     Connections {
@@ -101,50 +101,24 @@ FocusScope {
         onActiveFocusChanged: if (activeFocus) tail.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
     }
 
-    Rectangle {
+    Scrim {
         id: scrim
         anchors.fill: parent
-        color: Theme.scrim
-
-        MouseArea {
-            anchors.fill: parent
-            hoverEnabled: true
-            acceptedButtons: Qt.AllButtons
-            onWheel: wheel => wheel.accepted = true
-        }
     }
 
-    Rectangle {
+    SheetSurface {
         id: panel
 
+        readonly property int highest: Theme.scaled(sheet.sheetHeight)
         readonly property int edge: sheet.height < 720 ? 12 : 24
         readonly property real needed: header.height + bodySlot.childrenRect.height + Theme.s4 + pinned.height + footer.height
 
         anchors.horizontalCenter: parent.horizontalCenter
         y: Math.round((parent.height - height) / 2) + rise
-        width: Math.min(sheet.sheetWidth, parent.width - 2 * edge)
-        height: Math.min(sheet.fits ? needed : sheet.sheetHeight, sheet.sheetHeight, parent.height - 2 * edge)
-        radius: Theme.rSheet
-        color: Theme.bg
-        border.width: 1
-        border.color: Theme.isDark || Theme.isHighContrast ? Theme.line : "transparent"
+        width: Math.min(Theme.scaled(sheet.sheetWidth), parent.width - 2 * edge)
+        height: Math.min(sheet.fits ? needed : highest, highest, parent.height - 2 * edge)
 
         property real rise: 0
-
-        Shadow {
-            elevation: 3
-        }
-
-        // Opaque, and without round corners: what lies beneath the sheet need not be painted for every
-        // frame of a list that scrolls in it.
-        Rectangle {
-            anchors.fill: parent
-            anchors.leftMargin: 1
-            anchors.rightMargin: 1
-            anchors.topMargin: parent.radius
-            anchors.bottomMargin: parent.radius
-            color: Theme.bg
-        }
 
         Item {
             id: header
@@ -153,7 +127,8 @@ FocusScope {
 
             Loader {
                 id: tileSlot
-                x: sheet.LayoutMirroring.enabled ? parent.width - width - Theme.s6 : Theme.s6
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.s6
                 y: Theme.s6
                 sourceComponent: sheet.tile
             }

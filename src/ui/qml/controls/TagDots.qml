@@ -10,6 +10,8 @@ Row {
     readonly property var words: ["red", "orange", "yellow", "green", "blue", "purple", "gray"]
     readonly property var names: [qsTr("Red"), qsTr("Orange"), qsTr("Yellow"), qsTr("Green"), qsTr("Blue"), qsTr("Purple"), qsTr("Grey")]
     readonly property int currentIndex: words.indexOf(current)
+    /// The dot that Tab comes to.
+    readonly property Item stop: repeater.count > 0 ? repeater.itemAt(Math.max(0, currentIndex)) : null
 
     signal chosen(string word)
 
@@ -47,16 +49,8 @@ Row {
             focusPolicy: isChosen || control.currentIndex < 0 && index === 0 ? Qt.StrongFocus : Qt.ClickFocus
             onClicked: control.choose(index, false)
             Keys.onPressed: event => {
-                const step = control.LayoutMirroring.enabled ? -1 : 1;
-                const target = {
-                    [Qt.Key_Left]: index - step,
-                    [Qt.Key_Right]: index + step,
-                    [Qt.Key_Up]: index - 1,
-                    [Qt.Key_Down]: index + 1,
-                    [Qt.Key_Home]: 0,
-                    [Qt.Key_End]: control.words.length - 1
-                }[event.key];
-                event.accepted = target !== undefined && event.modifiers === Qt.NoModifier;
+                const target = Keystroke.inRow(event, index, control.words.length, control.LayoutMirroring.enabled);
+                event.accepted = target !== undefined;
                 if (event.accepted)
                     control.choose(target, true);
             }
@@ -99,13 +93,8 @@ Row {
                 target: dot
             }
 
-            Loader {
-                active: dot.hovered
-                sourceComponent: ToolTip {
-                    parent: dot
-                    text: dot.text
-                    visible: true
-                }
+            HoverTip {
+                text: dot.text
             }
         }
     }

@@ -183,7 +183,6 @@ QtObject {
     readonly property int rSheet: 14
     readonly property int rTick: 5
 
-    readonly property int instant: 0
     readonly property int fast: moving(90)
     readonly property int base: moving(160)
     readonly property int slow: moving(240)

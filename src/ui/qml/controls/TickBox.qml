@@ -34,21 +34,9 @@ T.CheckBox {
         id: hitArea
     }
 
-    indicator: Rectangle {
+    indicator: TickMark {
         anchors.centerIn: parent
-        width: 16
-        height: 16
-        radius: control.radius
-        color: control.checkState === Qt.Unchecked ? "transparent" : Theme.accent
-        border.width: control.checkState === Qt.Unchecked ? 1.5 : 0
-        border.color: Theme.tickOutline
-
-        Glyph {
-            anchors.centerIn: parent
-            name: control.checkState === Qt.Checked ? "tick" : control.checkState === Qt.PartiallyChecked ? "bar" : ""
-            size: 12
-            color: Theme.onAccent
-        }
+        checkState: control.checkState
     }
 
     FocusRing {

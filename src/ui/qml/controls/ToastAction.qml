@@ -11,8 +11,11 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     containmentMask: hitArea
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onPressed: event => {
+        event.accepted = Keystroke.isEnter(event);
+        if (event.accepted)
+            clicked();
+    }
 
     Accessible.role: Accessible.Button
     Accessible.name: text

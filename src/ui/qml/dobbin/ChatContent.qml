@@ -8,7 +8,6 @@ FocusScope {
     property bool floating: false
     property int radius: 0
 
-    Keys.onEscapePressed: App.chat.isOpen = false
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Dobbin")
 
@@ -174,22 +173,13 @@ FocusScope {
         anchors.bottomMargin: Theme.s4
     }
 
-    // Shown anew for each answer, which is what has it read aloud.
-    Item {
-        id: announcer
-        property string said
-        width: 1
-        height: 1
-        visible: false
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: said
+    Announcement {
+        id: announcement
 
         Connections {
             target: App.chat
             function onAnswered(spoken) {
-                announcer.visible = false;
-                announcer.said = spoken;
-                announcer.visible = true;
+                announcement.say(spoken);
             }
         }
     }

@@ -15,8 +15,11 @@ T.Button {
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.description: qsTr("Ask Dobbin")
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onPressed: event => {
+        event.accepted = Keystroke.isEnter(event);
+        if (event.accepted)
+            clicked();
+    }
 
     contentItem: Label {
         id: words

@@ -46,7 +46,7 @@ FocusScope {
                 topPadding: 10
                 bottomPadding: 10
                 leftPadding: 14
-                rightPadding: Theme.s1
+                rightPadding: 14
                 selectByMouse: true
                 wrapMode: TextEdit.Wrap
                 textFormat: TextEdit.PlainText
@@ -68,12 +68,10 @@ FocusScope {
                         flick.contentY = cursorRectangle.y + cursorRectangle.height + bottomPadding - flick.height;
                 }
                 Keys.onPressed: event => {
-                    const plain = !(event.modifiers & ~Qt.KeypadModifier);
-                    const enters = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
                     event.accepted = true;
-                    if (enters && plain)
+                    if (Keystroke.isEnter(event))
                         field.send();
-                    else if (event.key === Qt.Key_Up && plain && length === 0 && App.chat.lastQuestion !== "") {
+                    else if (event.key === Qt.Key_Up && event.modifiers === Qt.NoModifier && length === 0 && App.chat.lastQuestion !== "") {
                         text = App.chat.lastQuestion;
                         cursorPosition = length;
                     } else
@@ -86,7 +84,7 @@ FocusScope {
                     id: hint
                     x: input.leftPadding
                     y: input.topPadding
-                    width: input.width - input.leftPadding
+                    width: input.width - input.leftPadding - input.rightPadding
                     visible: input.length === 0 && input.preeditText === ""
                     text: qsTr("Ask about your files")
                     color: Theme.text3

@@ -123,7 +123,8 @@ T.ItemDelegate {
 
     Glyph {
         visible: !turn.isUser
-        x: turn.mirrored ? turn.width - 21 - width : 21
+        anchors.left: parent.left
+        anchors.leftMargin: 21
         y: 2
         name: "horseshoe"
         size: 14

@@ -12,7 +12,6 @@ FocusScope {
 
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Introduction")
-    Component.onCompleted: next.forceActiveFocus()
 
     Rectangle {
         anchors.fill: parent
@@ -47,12 +46,18 @@ FocusScope {
             width: flick.width
             y: Math.max(0, Math.round((flick.height - height) / 2))
             sourceComponent: [welcome, folders, quiet, dobbin][page.model.step]
-            onLoaded: flick.contentY = 0
+            onLoaded: {
+                flick.contentY = 0;
+                // What had the focus went with the last step.
+                if (!other.activeFocus)
+                    next.forceActiveFocus(Qt.OtherFocusReason);
+            }
         }
     }
 
     ScrollBar {
         flickable: flick
+        anchors.rightMargin: -Theme.s4
     }
 
     Item {

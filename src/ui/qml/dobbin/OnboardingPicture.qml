@@ -182,9 +182,13 @@ Item {
     }
 
     Label {
-        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.margins: Theme.s6
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 52
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
         text: qsTr("Rules you can read, undo for every move.")
         color: Theme.onTint
     }

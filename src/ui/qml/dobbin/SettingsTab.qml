@@ -18,11 +18,12 @@ T.RadioButton {
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.onPressAction: click()
-    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Accessible.onPressAction: clicked()
+    Keys.onPressed: event => {
+        event.accepted = Keystroke.isEnter(event);
+        if (event.accepted)
+            clicked();
+    }
 
     contentItem: Item {
         Symbol {

@@ -53,6 +53,13 @@ Window {
         onActivated: window.close()
     }
 
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
+    }
+
+    FocusGuard {}
+
     Rectangle {
         anchors.fill: parent
         radius: window.isSquare ? 0 : Theme.rCard
@@ -76,7 +83,8 @@ Window {
             }
 
             Label {
-                x: window.LayoutMirroring.enabled ? side.width - width - Theme.s5 : Theme.s5
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.s5
                 y: 28 - height / 2
                 text: qsTr("Settings")
                 style: Theme.heading
@@ -98,7 +106,9 @@ Window {
                     width: parent.width
 
                     SettingsTab {
+                        id: generalTab
                         focus: App.settings.page !== "dobbin"
+                        KeyNavigation.down: dobbinTab
                         text: qsTr("General")
                         iconName: "configure"
                         checked: App.settings.page !== "dobbin"
@@ -106,7 +116,9 @@ Window {
                     }
 
                     SettingsTab {
+                        id: dobbinTab
                         focus: App.settings.page === "dobbin"
+                        KeyNavigation.up: generalTab
                         text: qsTr("Dobbin")
                         glyph: "horseshoe"
                         checked: App.settings.page === "dobbin"
@@ -116,7 +128,8 @@ Window {
             }
 
             Label {
-                x: window.LayoutMirroring.enabled ? side.width - width - Theme.s5 : Theme.s5
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.s5
                 anchors.bottom: parent.bottom
                 anchors.bottomMargin: Theme.s4
                 text: App.settings.version

@@ -90,7 +90,7 @@ EditorRow {
         id: tagEditor
 
         TagDots {
-            readonly property Item field: children[0]
+            readonly property Item field: stop
             height: Theme.controlInRow
             topPadding: (Theme.controlInRow - 24) / 2
             current: row.tag
@@ -178,6 +178,8 @@ EditorRow {
                 style: Theme.caption
                 color: Theme.text2
                 wrapMode: Text.Wrap
+                maximumLineCount: 2
+                elide: Text.ElideRight
             }
         }
     }

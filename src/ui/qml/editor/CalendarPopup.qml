@@ -41,6 +41,7 @@ T.Popup {
                 anchors.verticalCenter: parent.verticalCenter
                 kind: "quiet"
                 iconName: "go-previous"
+                mirrorsRightToLeft: true
                 label: qsTr("Month before")
                 onClicked: popup.calendar.stepMonths(-1)
             }
@@ -56,6 +57,7 @@ T.Popup {
                 anchors.verticalCenter: parent.verticalCenter
                 kind: "quiet"
                 iconName: "go-next"
+                mirrorsRightToLeft: true
                 label: qsTr("Month after")
                 onClicked: popup.calendar.stepMonths(1)
             }

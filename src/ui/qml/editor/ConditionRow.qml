@@ -146,7 +146,7 @@ EditorRow {
         id: tagEditor
 
         TagDots {
-            readonly property Item field: children[0]
+            readonly property Item field: stop
             height: Theme.controlInRow
             topPadding: (Theme.controlInRow - 24) / 2
             current: row.value

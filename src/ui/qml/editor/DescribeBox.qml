@@ -64,11 +64,8 @@ Rectangle {
                 placeholder: qsTr("Move PDFs with invoice in the name to Receipts")
                 text: box.dobbin.sentence
                 onEdited: text => box.dobbin.sentence = text
-                Keys.onReturnPressed: event => draftWith(event)
-                Keys.onEnterPressed: event => draftWith(event)
-
-                function draftWith(event) {
-                    event.accepted = (event.modifiers & ~Qt.KeypadModifier) === 0;
+                Keys.onPressed: event => {
+                    event.accepted = Keystroke.isEnter(event);
                     if (event.accepted)
                         box.dobbin.draft();
                 }
@@ -88,7 +85,7 @@ Rectangle {
 
         Line {
             visible: box.dobbin.isBusy
-            iconName: "help-about"
+            glyph: "horseshoe"
             text: qsTr("Dobbin is thinking")
             tint: Theme.dobbin
 

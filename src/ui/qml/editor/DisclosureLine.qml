@@ -19,11 +19,8 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     onClicked: toggled()
-    Keys.onReturnPressed: event => toggleWith(event)
-    Keys.onEnterPressed: event => toggleWith(event)
-
-    function toggleWith(event) {
-        event.accepted = event.modifiers === Qt.NoModifier;
+    Keys.onPressed: event => {
+        event.accepted = Keystroke.isEnter(event);
         if (event.accepted)
             toggled();
     }

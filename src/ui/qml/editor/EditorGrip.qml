@@ -10,9 +10,12 @@ T.AbstractButton {
     readonly property int radius: 4
     readonly property alias isDragged: drag.active
     readonly property real distance: drag.activeTranslation.y
+    /// Where the pointer is in the window's contents.
+    readonly property point pointer: drag.centroid.scenePosition
 
     signal grabbed
     signal moved
+    signal released
 
     implicitWidth: 12
     implicitHeight: Theme.controlInRow
@@ -45,8 +48,10 @@ T.AbstractButton {
         margin: 10
         cursorShape: Qt.ClosedHandCursor
         onActiveChanged: {
-            if (!active)
+            if (!active) {
+                grip.released();
                 return;
+            }
             grip.forceActiveFocus(Qt.MouseFocusReason);
             grip.grabbed();
         }

@@ -17,7 +17,10 @@ FocusScope {
     property Item valueItem
 
     readonly property bool isDragged: grip.isDragged
+    readonly property real scrolledTo: list && list.scroller ? list.scroller.contentY : 0
+    readonly property real draggedTo: grabbedAt + grip.distance + scrolledTo - grabbedScroll
     property real grabbedAt: 0
+    property real grabbedScroll: 0
     property int grabbedRow: 0
 
     width: list ? list.width : implicitWidth
@@ -33,8 +36,15 @@ FocusScope {
             item.forceActiveFocus(Qt.TabFocusReason);
     }
 
+    /// Comes before or behind other rows as it is dragged past them.
+    function follow() {
+        const target = list.rowAt(draggedTo + height / 2);
+        if (target !== index)
+            list.rows.move(index, target);
+    }
+
     transform: Translate {
-        y: row.isDragged ? row.grabbedAt + grip.distance - row.y : 0
+        y: row.isDragged ? row.draggedTo - row.y : 0
     }
 
     Keys.onDeletePressed: row.list.removeRow(row.index)
@@ -69,12 +79,14 @@ FocusScope {
         onGrabbed: {
             row.grabbedAt = row.y;
             row.grabbedRow = row.index;
+            row.grabbedScroll = row.scrolledTo;
         }
         onMoved: {
-            const target = row.list.rowAt(row.grabbedAt + distance + row.height / 2);
-            if (target >= 0 && target !== row.index)
-                row.list.rows.move(row.index, target);
+            row.follow();
+            const scroller = row.list.scroller;
+            row.list.edgeScroll.near(scroller.mapFromItem(null, pointer.x, pointer.y).y, row.follow);
         }
+        onReleased: row.list.edgeScroll.end()
     }
 
     Label {

@@ -6,6 +6,9 @@ Column {
     id: list
 
     property QtObject rows
+    /// What this list scrolls in.
+    property Flickable scroller
+    readonly property alias edgeScroll: edgeScroll
     property alias delegate: repeater.delegate
     /// What has the focus when the last row is gone.
     property Item whenEmpty
@@ -41,16 +44,24 @@ Column {
             row.focusPart(part);
     }
 
-    /// The row over which a point of this list lies once every row has come to rest.
+    EdgeScroll {
+        id: edgeScroll
+        view: list.scroller
+    }
+
+    /// The row over which a point of this list lies once every row has come to rest; the nearest to a
+    /// point above or below them all.
     function rowAt(y) {
+        if (y < 0)
+            return 0;
         let top = 0;
         for (let index = 0; index < repeater.count; ++index) {
             const bottom = top + repeater.itemAt(index).height;
-            if (y >= top && y < bottom)
+            if (y < bottom + spacing)
                 return index;
             top = bottom + spacing;
         }
-        return -1;
+        return repeater.count - 1;
     }
 
     function removeRow(index) {

@@ -30,6 +30,8 @@ Item {
                 id: input
                 width: Theme.scaled(84)
                 inRow: true
+                errorText: number.errorText
+                showsError: false
                 input.inputMethodHints: Qt.ImhFormattedNumbersOnly
                 onEdited: text => number.edited(text)
 
@@ -54,11 +56,5 @@ Item {
             width: parent.width
             text: number.errorText
         }
-    }
-
-    Binding {
-        target: input.surface
-        property: "wrong"
-        value: number.errorText !== ""
     }
 }

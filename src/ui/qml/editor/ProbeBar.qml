@@ -33,31 +33,20 @@ Rectangle {
             width: parent.width
             condition: bar.editor.conditionText
             action: bar.editor.actionText
+            maximumLineCount: 4
+            elide: Text.ElideRight
         }
 
         Repeater {
             model: bar.editor.warnings
 
-            Row {
-                id: warning
+            MarkedLine {
                 required property string modelData
                 width: column.width
-                spacing: 6
-
-                Glyph {
-                    y: (Theme.caption.lineHeight - height) / 2
-                    name: "alert"
-                    size: 14
-                    color: Theme.warnIcon
-                }
-
-                Label {
-                    width: warning.width - 20
-                    text: warning.modelData
-                    style: Theme.caption
-                    color: Theme.warn
-                    wrapMode: Text.Wrap
-                }
+                glyph: "alert"
+                tint: Theme.warnIcon
+                text: modelData
+                ink: Theme.warn
             }
         }
 
@@ -91,9 +80,15 @@ Rectangle {
         }
     }
 
-    /// Read out once it has stood still.
-    Item {
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: bar.isComplete ? bar.probe.spoken : ""
+    Announcement {
+        id: announcement
+
+        Connections {
+            target: bar.probe
+            function onSpokenChanged() {
+                if (bar.isComplete && bar.probe.spoken !== "")
+                    announcement.say(bar.probe.spoken);
+            }
+        }
     }
 }

@@ -203,6 +203,7 @@ Sheet {
             id: conditions
             width: parent.width
             rows: sheet.editor.conditions
+            scroller: sheet.scroller
             Accessible.name: qsTr("Conditions")
             whenEmpty: addCondition
 
@@ -255,6 +256,7 @@ Sheet {
             id: actions
             width: parent.width
             rows: sheet.editor.actions
+            scroller: sheet.scroller
             Accessible.name: qsTr("Actions")
             whenEmpty: addAction
 

@@ -45,15 +45,18 @@ T.ItemDelegate {
     Accessible.focusable: true
     Accessible.onPressAction: askToReveal()
 
-    Keys.onReturnPressed: askToReveal()
-    Keys.onEnterPressed: askToReveal()
+    // The window's own key takes back the newest entry, whichever row that is.
+    Keys.onShortcutOverride: event => event.accepted = event.matches(StandardKey.Undo)
     Keys.onPressed: event => {
-        const isMenu = event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
-        event.accepted = isMenu || event.matches(StandardKey.Undo);
-        if (isMenu)
+        event.accepted = true;
+        if (Keystroke.isMenu(event))
             menu.open(name.x, height);
-        else if (event.accepted)
+        else if (Keystroke.isEnter(event))
+            askToReveal();
+        else if (event.matches(StandardKey.Undo))
             askToUndo();
+        else
+            event.accepted = false;
     }
 
     TapHandler {

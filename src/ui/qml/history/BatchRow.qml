@@ -31,14 +31,15 @@ T.ItemDelegate {
     Accessible.focusable: true
     Accessible.onPressAction: openAsked(!isOpen)
 
-    Keys.onReturnPressed: openAsked(!isOpen)
-    Keys.onEnterPressed: openAsked(!isOpen)
     Keys.onSpacePressed: openAsked(!isOpen)
     Keys.onRightPressed: openAsked(!mirrored)
     Keys.onLeftPressed: openAsked(mirrored)
     Keys.onPressed: event => {
-        event.accepted = event.matches(StandardKey.Undo);
-        if (event.accepted && canUndo && !isUndoing)
+        const isEnter = Keystroke.isEnter(event);
+        event.accepted = isEnter || event.matches(StandardKey.Undo);
+        if (isEnter)
+            openAsked(!isOpen);
+        else if (event.accepted && canUndo && !isUndoing)
             undoAsked();
     }
 

@@ -31,6 +31,16 @@ FocusScope {
     }
 
     Shortcut {
+        sequence: "Ctrl+W"
+        onActivated: App.popover.close()
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
+    }
+
+    Shortcut {
         sequence: "Ctrl+,"
         onActivated: App.popover.openSettings()
     }
@@ -49,7 +59,7 @@ FocusScope {
             radius: Theme.rControl
             color: Theme.accent
             glyph: "guard"
-            iconColor: Theme.onTint
+            iconColor: Theme.onAccent
         }
 
         Label {

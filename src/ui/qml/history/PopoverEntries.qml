@@ -8,7 +8,7 @@ ListView {
 
     model: App.popover.entries
     interactive: false
-    keyNavigationEnabled: true
+    keyNavigationEnabled: false
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Recent activity")
 
@@ -28,10 +28,15 @@ ListView {
         focusPolicy: ListView.isCurrentItem || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
         hoverEnabled: true
         onClicked: App.entries.reveal(key)
-        Keys.onReturnPressed: clicked()
-        Keys.onEnterPressed: clicked()
-        Keys.onUpPressed: go(index - 1)
-        Keys.onDownPressed: go(index + 1)
+        Keys.onPressed: event => {
+            const target = Keystroke.inList(event, index, ListView.view.count);
+            const isEnter = Keystroke.isEnter(event);
+            event.accepted = isEnter || target !== undefined;
+            if (isEnter)
+                clicked();
+            else if (event.accepted)
+                go(target);
+        }
 
         Accessible.role: Accessible.ListItem
         Accessible.name: fileName

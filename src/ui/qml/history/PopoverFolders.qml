@@ -2,8 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Quillon
 
-/// The folders of the popover: one stop of the Tab key, and the run button of the current one the
-/// next.
+/// The folders of the popover. One stop of the Tab key: the run button of the current one.
 ListView {
     id: list
 
@@ -32,12 +31,11 @@ ListView {
             currentItem.runNow();
     }
 
-    Keys.onUpPressed: go(currentIndex - 1)
-    Keys.onDownPressed: go(currentIndex + 1)
     Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        const target = Keystroke.inList(event, currentIndex, count);
+        event.accepted = target !== undefined;
         if (event.accepted)
-            go(event.key === Qt.Key_Home ? 0 : count - 1);
+            go(target);
     }
 
     delegate: FocusScope {

@@ -54,7 +54,6 @@ FocusScope {
         text: App.page.details
         style: Theme.caption
         color: Theme.text2
-        elide: Text.ElideMiddle
     }
 
     Button {
@@ -67,29 +66,9 @@ FocusScope {
         text: qsTr("Dobbin")
         shortcutText: "Ctrl+J"
         toolTip: App.chat.isOpen ? qsTr("Close Dobbin") : qsTr("Ask Dobbin")
-        checkable: false
+        fullInk: Theme.dobbin
         onClicked: App.chat.toggle()
         Accessible.description: App.chat.isOpen ? qsTr("Open") : ""
-
-        readonly property color ownInk: Theme.dobbin
-
-        contentItem: Row {
-            spacing: 7
-
-            Glyph {
-                anchors.verticalCenter: parent.verticalCenter
-                name: "horseshoe"
-                color: Theme.dobbin
-            }
-
-            Label {
-                anchors.verticalCenter: parent.verticalCenter
-                text: dobbin.text
-                style: Theme.bodyMedium
-                color: Theme.dobbin
-                Accessible.ignored: true
-            }
-        }
 
         background: ButtonFill {
             kind: "secondary"

@@ -1,8 +1,7 @@
 import QtQuick
 import Quillon
 
-/// The folders. Arrows select, Alt with them reorders, Delete removes; a folder that is dragged here
-/// from a file manager is added where the line is.
+/// The folders. Arrows select, Alt with them reorders, Delete removes.
 ListView {
     id: list
 
@@ -11,11 +10,15 @@ ListView {
     property string ruleName
     /// Where what is dragged would come to lie; -1 for nowhere.
     property int insertion: -1
-    readonly property int edge: 40
+    /// The folder that is dragged.
+    property string dragged
+    readonly property bool isDragging: dragged !== ""
 
     model: App.folders
     clip: true
     reuseItems: true
+    // The row that is dragged keeps its hold of the pointer.
+    cacheBuffer: isDragging ? 20000 : 320
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
     boundsBehavior: Flickable.StopAtBounds
@@ -48,25 +51,46 @@ ListView {
     }
 
     function insertionAt(y) {
-        const row = indexAt(width / 2, y + contentY);
+        const place = Math.max(0, Math.min(height - 1, y)) + contentY;
+        const row = indexAt(width / 2, place);
         if (row < 0)
             return count;
         const item = itemAtIndex(row);
-        return y + contentY > item.y + item.height / 2 ? row + 1 : row;
+        return place > item.y + item.height / 2 ? row + 1 : row;
     }
 
-    function scrollNear(y) {
-        scroll.step = y < edge ? -8 : y > height - edge ? 8 : 0;
+    /// Places are those of this list.
+    function dragTo(x, y) {
+        const isInside = x >= 0 && x <= width && y >= -scroll.edge && y <= height + scroll.edge;
+        insertion = isInside ? insertionAt(y) : -1;
+        if (isInside)
+            scroll.near(y, () => list.dragTo(x, y));
+        else
+            scroll.end();
     }
 
-    function dragTo(y) {
-        insertion = insertionAt(y);
-        scrollNear(y);
+    /// A rule is dragged to there.
+    function carryRule(x, y) {
+        const isBeside = x < 0 || x > width;
+        const row = isBeside || y < 0 || y > height ? -1 : indexAt(x, y + contentY);
+        ruleTarget = row === currentIndex ? -1 : row;
+        if (isBeside)
+            scroll.end();
+        else
+            scroll.near(y, () => list.carryRule(x, y));
     }
 
     function dragEnded() {
         insertion = -1;
-        scroll.step = 0;
+        ruleTarget = -1;
+        dragged = "";
+        scroll.end();
+    }
+
+    Shortcut {
+        sequence: "Escape"
+        enabled: list.isDragging
+        onActivated: list.dragEnded()
     }
 
     moveDisplaced: Transition {
@@ -77,60 +101,36 @@ ListView {
         }
     }
 
-    Timer {
+    EdgeScroll {
         id: scroll
-        property int step: 0
-        interval: 16
-        repeat: true
-        running: step !== 0
-        onTriggered: list.contentY = Math.max(list.originY, Math.min(list.originY + Math.max(0, list.contentHeight - list.height), list.contentY + step))
+        view: list
     }
 
-    DropArea {
-        anchors.fill: parent
-        z: -1
-        onEntered: drag => drag.accepted = drag.hasUrls && App.folders.mayTake(drag.urls)
-        onPositionChanged: drag => list.dragTo(drag.y)
-        onExited: list.dragEnded()
-        onDropped: drop => {
-            const row = list.insertionAt(drop.y);
-            list.dragEnded();
-            App.folders.addDropped(drop.urls, row);
-            drop.accept(Qt.CopyAction);
-        }
-    }
-
-    Rectangle {
-        id: insertionLine
+    InsertionLine {
         parent: list.contentItem
         visible: list.insertion >= 0
-        x: 10
+        x: LayoutMirroring.enabled ? 11 : 10
         y: list.originY + list.insertion * Theme.rowSidebar + list.insertion * 2 - 1
         z: 2
         width: list.width - 21
-        height: 2
-        color: Theme.accent
-
-        Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.horizontalCenter: parent.left
-            width: 8
-            height: 8
-            radius: 4
-            color: Theme.accent
-        }
     }
 
     spacing: 2
 
     delegate: SidebarRow {
         width: ListView.view.width
-        onDragMoved: y => list.dragTo(y)
+        onDragBegun: list.dragged = key
+        onDragMoved: (x, y) => {
+            if (list.isDragging)
+                list.dragTo(x, y);
+        }
         onDragCancelled: list.dragEnded()
         onDragDropped: {
             const to = list.insertion > index ? list.insertion - 1 : list.insertion;
+            const isMeant = list.isDragging;
             list.dragEnded();
-            App.folders.moveTo(key, to);
+            if (isMeant)
+                App.folders.moveTo(key, to);
         }
     }
 

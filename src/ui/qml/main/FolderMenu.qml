@@ -6,7 +6,7 @@ import Quillon
 Menu {
     id: menu
 
-    implicitWidth: 250
+    implicitWidth: Math.max(250, Math.min(Theme.scaled(320), contentWidthOfItems + leftPadding + rightPadding))
 
     Menu {
         id: timings
@@ -19,12 +19,9 @@ Menu {
                 required property int index
                 required property string modelData
                 text: modelData
-                checkable: true
-                checked: App.page.timing === index
-                onTriggered: {
-                    App.page.timing = index;
-                    checked = Qt.binding(() => App.page.timing === index);
-                }
+                isChoice: true
+                isChosen: App.page.timing === index
+                onTriggered: App.page.timing = index
             }
             onObjectAdded: (index, object) => timings.insertItem(index, object)
             onObjectRemoved: (index, object) => timings.removeItem(object)
@@ -33,32 +30,23 @@ Menu {
 
     MenuItem {
         text: qsTr("Include subfolders")
-        checkable: true
-        checked: App.page.isRecursive
-        onTriggered: {
-            App.page.isRecursive = checked;
-            checked = Qt.binding(() => App.page.isRecursive);
-        }
+        isChoice: true
+        isChosen: App.page.isRecursive
+        onTriggered: App.page.isRecursive = !isChosen
     }
 
     MenuItem {
         text: qsTr("Only new files")
-        checkable: true
-        checked: App.page.onlyNewFiles
-        onTriggered: {
-            App.page.onlyNewFiles = checked;
-            checked = Qt.binding(() => App.page.onlyNewFiles);
-        }
+        isChoice: true
+        isChosen: App.page.onlyNewFiles
+        onTriggered: App.page.onlyNewFiles = !isChosen
     }
 
     MenuItem {
         text: qsTr("Skip online-only files")
-        checkable: true
-        checked: App.page.skipsOnlineOnly
-        onTriggered: {
-            App.page.skipsOnlineOnly = checked;
-            checked = Qt.binding(() => App.page.skipsOnlineOnly);
-        }
+        isChoice: true
+        isChosen: App.page.skipsOnlineOnly
+        onTriggered: App.page.skipsOnlineOnly = !isChosen
     }
 
     MenuDivider {}
@@ -73,11 +61,8 @@ Menu {
             delegate: TintItem {
                 tint: index
                 text: modelData
-                checked: App.page.tint === index
-                onTriggered: {
-                    App.page.setTint(index);
-                    checked = Qt.binding(() => App.page.tint === index);
-                }
+                isChosen: App.page.tint === index
+                onTriggered: App.page.setTint(index)
             }
             onObjectAdded: (index, object) => colours.insertItem(index, object)
             onObjectRemoved: (index, object) => colours.removeItem(object)
@@ -95,12 +80,9 @@ Menu {
                 required property var modelData
                 text: modelData.label
                 iconName: modelData.name
-                checkable: true
-                checked: App.page.symbol === modelData.name
-                onTriggered: {
-                    App.page.setSymbol(modelData.name);
-                    checked = Qt.binding(() => App.page.symbol === modelData.name);
-                }
+                isChoice: true
+                isChosen: App.page.symbol === modelData.name
+                onTriggered: App.page.setSymbol(modelData.name)
             }
             onObjectAdded: (index, object) => symbols.insertItem(index, object)
             onObjectRemoved: (index, object) => symbols.removeItem(object)

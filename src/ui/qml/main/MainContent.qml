@@ -9,10 +9,26 @@ Item {
     readonly property bool isBusyElsewhere: App.sheets.current !== "" || onboarding.active || App.folders.question.isOpen
     readonly property bool buttonsAtStart: Desktop.hasButtonsAtStart
     readonly property bool chatIsOpen: App.chat.isOpen
-    readonly property bool chatLiesOver: chatIsOpen && width < 960
+    readonly property bool chatLiesOver: chatIsOpen && (width < 960 || width - sidebar.width - chat.fullWidth < 400)
     /// What the panel takes of the page at once: its rules are wrapped anew when the panel opens, and not
     /// for each frame in which it slides into its place.
     readonly property real chatRoom: chatIsOpen && !chatLiesOver ? chat.fullWidth : 0
+    readonly property Item focused: Window.activeFocusItem
+    readonly property bool isFocusLost: !focused || !focused.parent || focused === detail.rules || focused === sidebar.list
+    /// A sheet that reaches them lies over the window's buttons, so that none is taken for one of its own.
+    readonly property bool sheetHidesButtons: sheets.reaches(windowButtons)
+    readonly property bool catchesFocus: isFocusLost && Window.active && !isBusyElsewhere
+
+    /// What had the focus may go, and what it was opened from with it: then the keyboard goes on from
+    /// the next rule or from the folders.
+    function catchFocus() {
+        if (catchesFocus && focused === detail.rules)
+            detail.rules.takeFocus();
+        else if (catchesFocus)
+            (sidebar.list.currentItem ?? noFolders).forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    onCatchesFocusChanged: Qt.callLater(catchFocus)
 
     Rectangle {
         anchors.fill: parent
@@ -49,6 +65,7 @@ Item {
         }
 
         Loader {
+            id: noFolders
             active: !App.page.hasFolder
             focus: active
             anchors.left: sidebar.right
@@ -88,7 +105,7 @@ Item {
         anchors.right: isAtStart ? undefined : parent.right
         anchors.margins: Theme.s4
         y: 17
-        z: 1
+        z: content.sheetHidesButtons ? 0 : 1
     }
 
     Rectangle {
@@ -108,8 +125,8 @@ Item {
             detail.carryRule(x, y);
         }
         onDropped: (x, y) => {
-            if (!sidebar.dropRule(x, y))
-                detail.dropRule(x, y);
+            sidebar.dropRule(x, y);
+            detail.dropRule(x, y);
         }
         onEnded: {
             sidebar.ruleGone();
@@ -144,19 +161,9 @@ Item {
         }
     }
 
-    Loader {
-        id: sheetHost
+    SheetHost {
+        id: sheets
         anchors.fill: parent
-        active: App.sheets.current !== ""
-        source: active ? sheetFiles[App.sheets.current] || "" : ""
-
-        readonly property var sheetFiles: ({
-                "RuleEditorSheet": "qrc:/Quillon/editor/RuleEditorSheet.qml",
-                "PreviewSheet": "qrc:/Quillon/review/PreviewSheet.qml",
-                "CleanupSheet": "qrc:/Quillon/review/CleanupSheet.qml",
-                "PresetsSheet": "qrc:/Quillon/review/PresetsSheet.qml",
-                "HistorySheet": "qrc:/Quillon/history/HistorySheet.qml"
-            })
     }
 
     QuestionCard {
@@ -177,9 +184,11 @@ Item {
         }
     }
 
+    FocusGuard {}
+
     MainKeys {
         id: keys
-        enabled: !content.isBusyElsewhere
+        enabled: !content.isBusyElsewhere && !hand.isCarrying && !sidebar.list.isDragging
         sidebar: sidebar
         detail: detail
         chat: content.chatIsOpen ? chat : null

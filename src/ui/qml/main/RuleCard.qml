@@ -21,13 +21,14 @@ T.ItemDelegate {
     readonly property bool isCurrent: ListView.isCurrentItem || ListView.view !== null && ListView.view.currentIndex < 0 && index === 0
     readonly property bool focusWithin: activeFocus || grip.activeFocus || more.activeFocus || toggle.activeFocus
 
+    signal gripTaken
     /// Places are those of the window's contents.
     signal gripMoved(point place)
     signal gripReleased(point place)
     signal gripCancelled
 
     height: Math.max(column.y + column.implicitHeight + Theme.s3 + 1, Theme.scaled(62))
-    focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
     opacity: isCarried ? 0.35 : 1
 
@@ -39,6 +40,14 @@ T.ItemDelegate {
 
     onClicked: edit()
     onActiveFocusChanged: if (activeFocus) ListView.view.currentIndex = index
+
+    // Its rule is gone, and it waits for another: the list says where the focus goes on.
+    ListView.onPooled: {
+        if (!focusWithin)
+            return;
+        focus = false;
+        ListView.view.forceActiveFocus(Qt.OtherFocusReason);
+    }
 
     function edit() {
         App.editor.edit(App.page.folderID, key);
@@ -58,20 +67,19 @@ T.ItemDelegate {
         ListView.view.showCopies();
     }
 
-    Keys.onReturnPressed: edit()
-    Keys.onEnterPressed: edit()
     Keys.onDeletePressed: App.page.rules.remove(key)
-    Keys.onMenuPressed: openMenu()
     Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? moveBy(-1) : ListView.view.focusRow(index - 1)
     Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? moveBy(1) : ListView.view.focusRow(index + 1)
     Keys.onSpacePressed: App.page.rules.setEnabled(key, !isEnabled)
     Keys.onPressed: event => {
         event.accepted = true;
-        if (event.key === Qt.Key_Home)
+        if (Keystroke.isEnter(event))
+            edit();
+        else if (event.key === Qt.Key_Home)
             ListView.view.focusRow(0);
         else if (event.key === Qt.Key_End)
             ListView.view.focusRow(ListView.view.count - 1);
-        else if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
+        else if (Keystroke.isMenu(event))
             openMenu();
         else if (event.key === Qt.Key_D && event.modifiers === Qt.ControlModifier)
             App.page.rules.duplicate(key);
@@ -79,6 +87,11 @@ T.ItemDelegate {
             openCopyMenu();
         else
             event.accepted = false;
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => card.ListView.view.openMenuAt(card, eventPoint.position)
     }
 
     background: Card {
@@ -102,6 +115,11 @@ T.ItemDelegate {
         Accessible.name: qsTr("Move %1").arg(card.name)
         Accessible.description: qsTr("Alt+Up and Alt+Down")
         Accessible.focusable: true
+        Accessible.onPressAction: card.openMenu()
+        // In the menu it can be moved, too; the card's own keys would switch or open the rule.
+        Keys.onSpacePressed: card.openMenu()
+        Keys.onReturnPressed: card.openMenu()
+        Keys.onEnterPressed: card.openMenu()
 
         readonly property bool visualFocus: activeFocus
         readonly property int radius: 4
@@ -125,7 +143,11 @@ T.ItemDelegate {
             preventStealing: true
             onPressed: mouse => start = Qt.point(mouse.x, mouse.y)
             onPositionChanged: mouse => {
-                isDragging = isDragging || Math.abs(mouse.x - start.x) + Math.abs(mouse.y - start.y) > Qt.styleHints.startDragDistance;
+                const distance = Math.abs(mouse.x - start.x) + Math.abs(mouse.y - start.y);
+                if (!isDragging && distance > Qt.styleHints.startDragDistance) {
+                    isDragging = true;
+                    card.gripTaken();
+                }
                 if (isDragging)
                     card.gripMoved(mapToItem(null, mouse.x, mouse.y));
             }
@@ -205,38 +227,23 @@ T.ItemDelegate {
             Accessible.ignored: true
         }
 
-        Repeater {
-            model: card.warnings
+        Column {
+            width: parent.width
+            visible: card.warnings.length > 0
+            topPadding: Theme.s1
+            spacing: 6
 
-            Item {
-                id: warning
+            Repeater {
+                model: card.warnings
 
-                required property string modelData
-
-                width: column.width
-                height: words.implicitHeight + 4
-
-                Glyph {
-                    id: mark
-                    anchors.left: parent.left
-                    anchors.top: words.top
-                    anchors.topMargin: 1
-                    name: "alert"
-                    size: 14
-                    color: Theme.warnIcon
-                }
-
-                Label {
-                    id: words
-                    anchors.left: mark.right
-                    anchors.leftMargin: 6
-                    anchors.right: parent.right
-                    anchors.bottom: parent.bottom
-                    text: warning.modelData
-                    style: Theme.caption
-                    color: Theme.warn
-                    wrapMode: Text.Wrap
-                    Accessible.ignored: true
+                MarkedLine {
+                    required property string modelData
+                    width: column.width
+                    glyph: "alert"
+                    tint: Theme.warnIcon
+                    text: modelData
+                    ink: Theme.warn
+                    isSaidElsewhere: true
                 }
             }
         }

@@ -30,7 +30,7 @@ Card {
 
     function move(place) {
         x = place.x + 14;
-        y = place.y + 6;
+        y = place.y + 22;
         moved(place.x, place.y);
     }
 

@@ -12,7 +12,6 @@ ListView {
     property Item carried
     /// Where a rule that is dragged would come to lie; -1 for nowhere.
     property int insertion: -1
-    readonly property int edge: 40
 
     /// There is no rule to take the focus.
     signal focusTurnedDown
@@ -20,7 +19,7 @@ ListView {
     model: App.page.rules
     reuseItems: true
     spacing: Theme.s2
-    cacheBuffer: carried.isCarrying ? 20000 : 400
+    cacheBuffer: carried.isCarrying || settling.running ? 20000 : 400
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
     boundsBehavior: Flickable.StopAtBounds
@@ -49,6 +48,11 @@ ListView {
         menu.popup(anchor, anchor.width - menu.implicitWidth, anchor.height + 2);
     }
 
+    function openMenuAt(card, place) {
+        menu.card = card;
+        menu.popup(card, place.x, place.y);
+    }
+
     /// Once the menu is open.
     function showCopies() {
         menu.showCopies();
@@ -65,9 +69,12 @@ ListView {
     }
 
     function dragTo(x, y) {
-        const isInside = x >= 0 && x <= width && y >= -edge && y <= height;
+        const isInside = x >= 0 && x <= width && y >= -scroll.edge && y <= height;
         insertion = isInside ? insertionAt(y + contentY) : -1;
-        scroll.step = !isInside ? 0 : y < edge ? -10 : y > height - edge ? 10 : 0;
+        if (isInside)
+            scroll.near(y, () => list.dragTo(x, y));
+        else
+            scroll.end();
     }
 
     /// Where the rule that is dragged would then be; -1 when nothing would change.
@@ -78,21 +85,25 @@ ListView {
         for (let row = 0; row < count; ++row)
             if (itemAtIndex(row) && itemAtIndex(row).key === carried.key)
                 from = row;
+        settling.restart();
         return insertion > from && from >= 0 ? insertion - 1 : insertion;
     }
 
     function dragEnded() {
         insertion = -1;
-        scroll.step = 0;
+        scroll.end();
     }
 
+    // A card that is still on its way must not be used for another rule: it would come to lie in that
+    // one's place.
     Timer {
+        id: settling
+        interval: Theme.reorder + 100
+    }
+
+    EdgeScroll {
         id: scroll
-        property int step: 0
-        interval: 16
-        repeat: true
-        running: step !== 0
-        onTriggered: list.contentY = Math.max(list.originY, Math.min(list.originY + Math.max(0, list.contentHeight - list.height), list.contentY + step))
+        view: list
     }
 
     header: Item {
@@ -109,10 +120,10 @@ ListView {
         x: list.LayoutMirroring.enabled ? list.endMargin : list.startMargin
         width: ListView.view ? ListView.view.width - list.startMargin - list.endMargin : 0
         isCarried: list.carried.key === key
+        onGripTaken: list.carried.take(this)
         onGripMoved: place => {
-            if (!list.carried.isCarrying)
-                list.carried.take(this);
-            list.carried.move(list.carried.parent.mapFromItem(null, place.x, place.y));
+            if (list.carried.isCarrying)
+                list.carried.move(list.carried.parent.mapFromItem(null, place.x, place.y));
         }
         onGripReleased: place => list.carried.letGo(list.carried.parent.mapFromItem(null, place.x, place.y))
         onGripCancelled: list.carried.cancel()
@@ -133,7 +144,7 @@ ListView {
         }
     }
 
-    Rectangle {
+    InsertionLine {
         readonly property Item before: list.insertion > 0 ? list.itemAtIndex(list.insertion - 1) : null
         readonly property Item after: list.insertion >= 0 ? list.itemAtIndex(list.insertion) : null
 
@@ -143,17 +154,6 @@ ListView {
         x: list.LayoutMirroring.enabled ? list.endMargin : list.startMargin
         y: after ? after.y - 5 : before ? before.y + before.height + 3 : 0
         width: list.width - list.startMargin - list.endMargin
-        height: 2
-        color: Theme.accent
-
-        Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.horizontalCenter: parent.left
-            width: 8
-            height: 8
-            radius: 4
-            color: Theme.accent
-        }
     }
 
     RuleMenu {

@@ -125,8 +125,12 @@ Item {
                         onRevealAsked: App.entries.reveal(place.key)
                         onUndoAsked: App.entries.undo(place.key)
                         onActiveFocusChanged: if (activeFocus) card.current = place.index
-                        Keys.onUpPressed: card.go(place.index - 1)
-                        Keys.onDownPressed: card.go(place.index + 1)
+                        Keys.onPressed: event => {
+                            const target = Keystroke.inList(event, place.index, repeater.count);
+                            event.accepted = target !== undefined;
+                            if (event.accepted)
+                                card.go(target);
+                        }
                     }
                 }
             }

@@ -10,11 +10,12 @@ Menu {
     property Item card
     readonly property string key: card ? card.key : ""
 
-    implicitWidth: 220
+    implicitWidth: Math.max(220, contentWidthOfItems + leftPadding + rightPadding)
 
     function showCopies() {
         currentIndex = 2;
         copies.open();
+        copies.goToEnd(1);
     }
 
     MenuItem {

@@ -1,7 +1,8 @@
 import QtQuick
 import Quillon
 
-/// The list of folders, and what is added to it.
+/// The list of folders, and what is added to it: a folder that is dragged here from a file manager comes
+/// where the line is.
 Item {
     id: sidebar
 
@@ -11,17 +12,10 @@ Item {
     property real startInset: 0
     readonly property alias list: list
 
-    /// The row of the list at a place of the window's contents, -1 when there is none.
-    function rowAt(x, y) {
-        const place = list.mapFromItem(carried.parent, x, y);
-        if (place.x < 0 || place.x > list.width || place.y < 0 || place.y > list.height)
-            return -1;
-        return list.indexAt(place.x, place.y + list.contentY);
-    }
-
+    /// Places are those of the window's contents.
     function carryRule(x, y) {
-        const row = rowAt(x, y);
-        list.ruleTarget = row === App.folders.currentIndex ? -1 : row;
+        const place = list.mapFromItem(carried.parent, x, y);
+        list.carryRule(place.x, place.y);
     }
 
     function dropRule(x, y) {
@@ -29,11 +23,10 @@ Item {
         const target = list.ruleTarget >= 0 ? list.itemAtIndex(list.ruleTarget) : null;
         if (target)
             App.folders.copyRule(carried.key, target.key);
-        return target !== null || rowAt(x, y) >= 0;
     }
 
     function ruleGone() {
-        list.ruleTarget = -1;
+        list.dragEnded();
     }
 
     RoundedSide {
@@ -46,6 +39,25 @@ Item {
     Divider {
         anchors.right: parent.right
         height: parent.height
+    }
+
+    DropArea {
+        function carry(drag) {
+            const place = mapToItem(list, drag.x, drag.y);
+            list.dragTo(place.x, place.y);
+        }
+
+        anchors.fill: parent
+        onEntered: drag => drag.accepted = drag.hasUrls && App.folders.mayTake(drag.urls)
+        onPositionChanged: drag => carry(drag)
+        onExited: list.dragEnded()
+        onDropped: drop => {
+            carry(drop);
+            const row = list.insertion;
+            list.dragEnded();
+            App.folders.addDropped(drop.urls, row);
+            drop.accept(Qt.CopyAction);
+        }
     }
 
     DragArea {

@@ -23,13 +23,14 @@ T.ItemDelegate {
     readonly property bool isTarget: ListView.view && ListView.view.ruleTarget === index
     readonly property int radius: Theme.rRow
 
-    /// Of its list.
-    signal dragMoved(real y)
+    signal dragBegun
+    /// Places are those of its list.
+    signal dragMoved(real x, real y)
     signal dragDropped
     signal dragCancelled
 
     height: Theme.rowSidebar
-    focusPolicy: isSelected ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isSelected || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
 
     Accessible.role: Accessible.ListItem
@@ -53,9 +54,8 @@ T.ItemDelegate {
     Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? moveBy(-1) : ListView.view.go(index - 1)
     Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? moveBy(1) : ListView.view.go(index + 1)
     Keys.onDeletePressed: App.folders.remove(key)
-    Keys.onMenuPressed: openMenu()
     Keys.onPressed: event => {
-        const isMenu = event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
+        const isMenu = Keystroke.isMenu(event);
         event.accepted = isMenu || event.key === Qt.Key_Home || event.key === Qt.Key_End;
         if (isMenu)
             openMenu();
@@ -98,6 +98,7 @@ T.ItemDelegate {
         anchors.bottomMargin: -3
         text: row.name
         style: row.isSelected ? Theme.bodyStrong : Theme.bodyMedium
+        showsTip: false // the row's says more
         Accessible.ignored: true
     }
 
@@ -155,9 +156,14 @@ T.ItemDelegate {
         onPositionChanged: mouse => {
             if (!(mouse.buttons & Qt.LeftButton))
                 return;
-            isDragging = isDragging || Math.abs(mouse.y - startY) > Qt.styleHints.startDragDistance;
-            if (isDragging)
-                row.dragMoved(mapToItem(row.ListView.view, mouse.x, mouse.y).y);
+            if (!isDragging && Math.abs(mouse.y - startY) > Qt.styleHints.startDragDistance) {
+                isDragging = true;
+                row.dragBegun();
+            }
+            if (!isDragging)
+                return;
+            const place = mapToItem(row.ListView.view, mouse.x, mouse.y);
+            row.dragMoved(place.x, place.y);
         }
         onReleased: mouse => {
             if (isDragging)

@@ -9,10 +9,11 @@ MenuItem {
     required property string modelData
     property int tint: 0
 
-    checkable: true
+    isChoice: true
 
     Rectangle {
-        x: item.mirrored ? item.width - item.leftPadding - width : item.leftPadding
+        anchors.left: parent.left
+        anchors.leftMargin: item.leftPadding
         anchors.verticalCenter: parent.verticalCenter
         width: 16
         height: 16

@@ -25,8 +25,11 @@ T.CheckDelegate {
     checkState: tick
     nextCheckState: () => checkState
     onClicked: ticked(tick !== Qt.Checked)
-    Keys.onReturnPressed: revealAsked()
-    Keys.onEnterPressed: revealAsked()
+    Keys.onPressed: event => {
+        event.accepted = !isHead && Keystroke.isEnter(event);
+        if (event.accepted)
+            revealAsked();
+    }
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: title
@@ -51,22 +54,11 @@ T.CheckDelegate {
         }
     }
 
-    indicator: Rectangle {
-        x: row.mirrored ? row.width - width - 12 : 12
+    indicator: TickMark {
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        width: 16
-        height: 16
-        radius: Theme.rTick
-        color: row.tick === Qt.Unchecked ? "transparent" : Theme.accent
-        border.width: row.tick === Qt.Unchecked ? 1.5 : 0
-        border.color: Theme.tickOutline
-
-        Glyph {
-            anchors.centerIn: parent
-            name: row.tick === Qt.Checked ? "tick" : row.tick === Qt.PartiallyChecked ? "bar" : ""
-            size: 12
-            color: Theme.onAccent
-        }
+        checkState: row.tick
     }
 
     contentItem: Item {

@@ -96,49 +96,16 @@ FocusScope {
             flickable: files
         }
 
-        Row {
-            anchors.centerIn: parent
-            visible: App.cleanup.state === "looking"
-            spacing: Theme.s2
-
-            Spinner {
-                anchors.verticalCenter: parent.verticalCenter
+        LookState {
+            anchors.fill: parent
+            isLooking: App.cleanup.state === "looking"
+            lookingText: qsTr("Looking through %1…").arg(App.cleanup.folderName)
+            hasFailed: App.cleanup.state === "failed"
+            emptyText: App.cleanup.emptyText
+            onAgainAsked: {
+                recipes.forceActiveFocus(Qt.OtherFocusReason);
+                App.cleanup.look();
             }
-
-            Label {
-                text: qsTr("Looking through %1…").arg(App.cleanup.folderName)
-                color: Theme.text2
-            }
-        }
-
-        EmptyState {
-            anchors.centerIn: parent
-            width: parent.width - 2 * Theme.s6
-            visible: App.cleanup.state === "failed"
-            title: qsTr("Quillon can’t read this folder.")
-            drawing: Component {
-                Tile {
-                    size: 44
-                    iconName: "lock"
-                }
-            }
-
-            Button {
-                text: qsTr("Try Again")
-                iconName: "view-refresh"
-                onClicked: App.cleanup.look()
-            }
-        }
-
-        Label {
-            anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width - 2 * Theme.s6)
-            visible: text !== ""
-            text: App.cleanup.emptyText
-            style: Theme.lead
-            color: Theme.text2
-            wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignHCenter
         }
     }
 }

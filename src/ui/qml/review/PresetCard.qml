@@ -12,7 +12,7 @@ Card {
 
     signal added
 
-    implicitHeight: Theme.scaled(78)
+    implicitHeight: Math.max(Theme.scaled(78), words.y + words.height + 14)
     Accessible.role: Accessible.ListItem
     Accessible.name: key
     Accessible.description: sentence
@@ -31,6 +31,7 @@ Card {
     }
 
     Column {
+        id: words
         anchors.left: tile.right
         anchors.leftMargin: Theme.s3
         anchors.right: card.isAdded ? badge.left : addButton.left

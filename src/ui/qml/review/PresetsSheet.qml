@@ -9,7 +9,7 @@ Sheet {
     title: qsTr("Presets")
     caption: qsTr("Ready-made rules for %1. Change them however you like afterwards.").arg(App.presets.folderName)
     sheetWidth: 720
-    sheetHeight: Theme.scaled(412)
+    sheetHeight: 412
     scrolls: true
     primary: doneButton
     tile: Component {
@@ -35,6 +35,14 @@ Sheet {
         columns: 2
         spacing: 10
         bottomPadding: Theme.s1
+        /// All are as high as the highest.
+        readonly property real cardHeight: {
+            let highest = 0;
+            for (let i = 0; i < cards.count; ++i)
+                highest = Math.max(highest, cards.itemAt(i)?.implicitHeight ?? 0);
+            return highest;
+        }
+
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Presets")
 
@@ -44,6 +52,7 @@ Sheet {
 
             PresetCard {
                 width: (grid.width - grid.spacing) / 2
+                height: grid.cardHeight
                 onAdded: sheet.focusNext(Qt.TabFocusReason)
             }
         }

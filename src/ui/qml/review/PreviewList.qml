@@ -38,15 +38,8 @@ ListView {
     }
 
     Keys.onPressed: event => {
-        const target = {
-            [Qt.Key_Up]: currentIndex - 1,
-            [Qt.Key_Down]: currentIndex + 1,
-            [Qt.Key_PageUp]: currentIndex - page,
-            [Qt.Key_PageDown]: currentIndex + page,
-            [Qt.Key_Home]: 0,
-            [Qt.Key_End]: count - 1
-        }[event.key];
-        event.accepted = target !== undefined && event.modifiers === Qt.NoModifier;
+        const target = Keystroke.inList(event, currentIndex, count, page);
+        event.accepted = target !== undefined;
         if (event.accepted)
             go(target, Qt.TabFocusReason);
     }

@@ -42,7 +42,8 @@ T.ItemDelegate {
     contentItem: Item {
         FileTile {
             id: tile
-            x: row.mirrored ? parent.width - width - 14 : 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: parent.verticalCenter
             fileName: row.fileName
             kind: row.kind
@@ -52,7 +53,7 @@ T.ItemDelegate {
             anchors.left: parent.left
             anchors.leftMargin: 58
             anchors.verticalCenter: parent.verticalCenter
-            width: 224
+            width: row.ruleName === "" ? parent.width - 72 : 224
             text: row.fileName
             style: Theme.bodyMedium
             elide: Text.ElideMiddle

@@ -71,6 +71,7 @@ Sheet {
 
             Label {
                 Layout.preferredWidth: 182
+                visible: App.preview.fate === 0
                 text: qsTr("Rule")
                 style: Theme.caption
                 color: Theme.text2
@@ -78,6 +79,7 @@ Sheet {
 
             Label {
                 Layout.fillWidth: true
+                visible: App.preview.fate === 0
                 text: qsTr("What happens")
                 style: Theme.caption
                 color: Theme.text2
@@ -115,49 +117,16 @@ Sheet {
                 flickable: list
             }
 
-            Row {
-                anchors.centerIn: parent
-                visible: App.preview.isLooking
-                spacing: Theme.s2
-
-                Spinner {
-                    anchors.verticalCenter: parent.verticalCenter
+            LookState {
+                anchors.fill: parent
+                isLooking: App.preview.isLooking
+                lookingText: App.preview.lookingText
+                hasFailed: App.preview.hasFailed
+                emptyText: App.preview.emptyText
+                onAgainAsked: {
+                    list.forceActiveFocus(Qt.OtherFocusReason);
+                    App.preview.look();
                 }
-
-                Label {
-                    text: App.preview.lookingText
-                    color: Theme.text2
-                }
-            }
-
-            EmptyState {
-                anchors.centerIn: parent
-                width: parent.width - 2 * Theme.s6
-                visible: App.preview.hasFailed
-                title: qsTr("Quillon can’t read this folder.")
-                drawing: Component {
-                    Tile {
-                        size: 44
-                        iconName: "lock"
-                    }
-                }
-
-                Button {
-                    text: qsTr("Try Again")
-                    iconName: "view-refresh"
-                    onClicked: App.preview.look()
-                }
-            }
-
-            Label {
-                anchors.centerIn: parent
-                width: Math.min(implicitWidth, parent.width - 2 * Theme.s6)
-                visible: text !== ""
-                text: App.preview.emptyText
-                style: Theme.lead
-                color: Theme.text2
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
             }
         }
     }

@@ -24,7 +24,7 @@ FocusScope {
     Accessible.description: countText
 
     Keys.onPressed: event => {
-        const step = event.text === "+" ? 1 : event.text === "-" || event.text === "−" ? -1 : 0;
+        const step = Keystroke.step(event);
         event.accepted = hasDays && step !== 0;
         if (event.accepted)
             App.cleanup.setDays(index, days + step);

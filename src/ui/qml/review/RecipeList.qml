@@ -40,13 +40,8 @@ ListView {
     }
 
     Keys.onPressed: event => {
-        const target = {
-            [Qt.Key_Up]: looked - 1,
-            [Qt.Key_Down]: looked + 1,
-            [Qt.Key_Home]: 0,
-            [Qt.Key_End]: count - 1
-        }[event.key];
-        event.accepted = target !== undefined && event.modifiers === Qt.NoModifier;
+        const target = Keystroke.inList(event, looked, count);
+        event.accepted = target !== undefined;
         if (event.accepted)
             go(target);
     }

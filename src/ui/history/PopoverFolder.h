@@ -30,25 +30,4 @@ public:
     bool operator==(const PopoverFolder&) const = default;
 };
 
-/// One of the newest entries there.
-struct PopoverEntry {
-    Q_GADGET
-    Q_PROPERTY(QString key MEMBER key)
-    Q_PROPERTY(QString fileName MEMBER fileName)
-    Q_PROPERTY(QString kind MEMBER kind)
-    Q_PROPERTY(QString secondLine MEMBER secondLine)
-    Q_PROPERTY(QString timeText MEMBER timeText)
-    Q_PROPERTY(bool isError MEMBER isError)
-
-public:
-    QString key = {}; ///< its id
-    QString fileName = {};
-    QString kind = {};
-    QString secondLine = {};
-    QString timeText = {};
-    bool isError = false;
-
-    bool operator==(const PopoverEntry&) const = default;
-};
-
 } // namespace quillon

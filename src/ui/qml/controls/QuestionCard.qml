@@ -1,7 +1,7 @@
 import QtQuick
 import Quillon
 
-/// Something that a sheet asks before it goes on, over all of it.
+/// Something that is asked before it goes on, over all that it fills.
 FocusScope {
     id: card
 
@@ -16,10 +16,10 @@ FocusScope {
 
     onVisibleChanged: {
         if (visible) {
-            before = Window.activeFocusItem;
+            before = FocusReturn.openerOf(Window.activeFocusItem);
             noButton.forceActiveFocus(Qt.TabFocusReason);
-        } else if (before) {
-            before.forceActiveFocus(Qt.PopupFocusReason);
+        } else {
+            FocusReturn.giveTo(before);
             before = null;
         }
     }
@@ -27,16 +27,8 @@ FocusScope {
     Keys.onEscapePressed: question.decline()
     Keys.onPressed: event => event.accepted = true
 
-    Rectangle {
+    Scrim {
         anchors.fill: parent
-        color: Theme.scrim
-
-        MouseArea {
-            anchors.fill: parent
-            hoverEnabled: true
-            acceptedButtons: Qt.AllButtons
-            onWheel: wheel => wheel.accepted = true
-        }
     }
 
     Rectangle {
@@ -81,13 +73,13 @@ FocusScope {
                 spacing: Theme.s2
 
                 Button {
+                    id: yesButton
                     visible: text !== ""
                     kind: card.question.isDestructive ? "destructive" : "secondary"
                     text: card.question.yes
                     onClicked: card.question.agree()
                     KeyNavigation.tab: noButton
                     KeyNavigation.backtab: noButton
-                    id: yesButton
                 }
 
                 Button {

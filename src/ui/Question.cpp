@@ -1,4 +1,4 @@
-#include "ui/editor/Question.h"
+#include "ui/Question.h"
 
 #include <utility>
 
