@@ -189,10 +189,8 @@ def missing_folder(programs, is_mouse):
         me = visit.me
         visit.home("Downloads").rename(visit.home("Incoming"))
         me.see("alert message", "Downloads can’t be found", patience=20)
-        if is_mouse:
-            me.click("push button", "More for Downloads")
-        else:
-            me.press("alt+Return")
+        me.choose_folder("Downloads")
+        me.push("More for Downloads")
         me.choose_item("Remove Downloads…")
         me.see("dialog", "Stop watching Downloads?")
         me.push("Cancel")

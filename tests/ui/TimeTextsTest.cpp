@@ -3,6 +3,7 @@
 #include "support/SystemTimeZone.h"
 #include "ui/CountTexts.h"
 #include "ui/FileKindWord.h"
+#include "ui/ShownName.h"
 
 #include <QDateTime>
 #include <gtest/gtest.h>
@@ -95,6 +96,11 @@ TEST(FileKindWordTest, KnowsAFileByItsName) {
         {u".hidden"_s, u"other"_s},       {u"x.nonsense"_s, u"other"_s}};
     for (const auto& [name, word] : words)
         EXPECT_EQ(fileKindWord(name), word) << name.toStdString();
+}
+
+TEST(ShownNameTest, KeepsANameOnOneLineAndItsExtensionAtItsEnd) {
+    EXPECT_EQ(shownName(u"new\nline\u202Egnp.txt"_s), u"new\uFFFDline\uFFFDgnp.txt"_s);
+    EXPECT_EQ(shownName(u"\u05DE\u200D 🎉.pdf"_s), u"\u05DE\u200D 🎉.pdf"_s);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "model/Uuid.h"
 #include "ui/FileKindWord.h"
+#include "ui/ShownName.h"
 #include "ui/TimeTexts.h"
 
 #include <QCoreApplication>
@@ -22,7 +23,7 @@ using Log = QHash<QUuid, const LogEntry*>;
 QVariantMap shown(const LogEntry& entry, const Log& log) {
     const LogEntry* const now = log.value(entry.id);
     return {{u"key"_s, uuidText(entry.id)},
-            {u"fileName"_s, entry.fileName},
+            {u"fileName"_s, shownName(entry.fileName)},
             {u"kind"_s, fileKindWord(entry.fileName)},
             {u"what"_s, entry.actionSummary},
             {u"isError"_s, entry.isError},

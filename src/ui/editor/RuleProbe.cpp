@@ -1,6 +1,7 @@
 #include "ui/editor/RuleProbe.h"
 
 #include "store/Sentences.h"
+#include "ui/ShownName.h"
 
 #include <utility>
 
@@ -78,7 +79,9 @@ QString RuleProbe::text() const {
 QStringList RuleProbe::names() const {
     if (!found_)
         return {};
-    QStringList names = found_->names;
+    QStringList names;
+    for (const QString& name : found_->names)
+        names.append(shownName(name));
     const auto more = found_->caught - std::size_t(names.size());
     if (more > 0)
         names.append(tr("and %L1 more").arg(more));

@@ -3,6 +3,7 @@
 #include "model/Uuid.h"
 #include "store/Undo.h"
 #include "ui/FileKindWord.h"
+#include "ui/ShownName.h"
 #include "ui/TimeTexts.h"
 
 namespace quillon {
@@ -13,7 +14,7 @@ ActivityEntry activityEntry(const LogEntry& entry, Timestamp now) {
     QStringList facts{entry.ruleName, entry.actionSummary};
     facts.removeAll(QString());
     return {.key = uuidText(entry.id),
-            .fileName = entry.fileName,
+            .fileName = shownName(entry.fileName),
             .kind = fileKindWord(entry.fileName),
             .secondLine = facts.join(u" · "_s),
             .timeText = entryTimeText(entry.date, now),

@@ -2,6 +2,7 @@
 
 #include "model/Uuid.h"
 #include "ui/CountTexts.h"
+#include "ui/ShownName.h"
 
 #include <QPointer>
 
@@ -84,7 +85,7 @@ void EntryCommands::undone(const QUuid& entryID, const AppStore::UndoReport& rep
     if (report.outcomes.empty())
         return;
     const UndoOutcome& outcome = report.outcomes.front();
-    const QString name = outcome.entry.fileName;
+    const QString name = shownName(outcome.entry.fileName);
     if (outcome.restored)
         around_.toasts.show(outcome.note.isEmpty()
                                 ? putBackText(1, 0, name)

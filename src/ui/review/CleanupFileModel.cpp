@@ -5,6 +5,7 @@
 #include "store/Sentences.h"
 #include "ui/CountTexts.h"
 #include "ui/FileKindWord.h"
+#include "ui/ShownName.h"
 #include "ui/TimeTexts.h"
 
 #include <algorithm>
@@ -174,7 +175,7 @@ QVariant CleanupFileModel::fileData(const Row& row, int role) const {
     const ListedFile& file = listed(row.file);
     switch (role) {
     case titleRole:
-        return nameOf(file);
+        return shownName(nameOf(file));
     case kindRole:
         return file.status.type == FileType::directory ? rawValue(FileKind::folder)
                                                        : fileKindWord(nameOf(file));

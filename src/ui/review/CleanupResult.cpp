@@ -1,6 +1,7 @@
 #include "ui/review/CleanupResult.h"
 
 #include "ui/CountTexts.h"
+#include "ui/ShownName.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -110,7 +111,7 @@ CleanupResult cleanupResult(const RunResult& run, const CleanupChoice& choice,
         result.canUndo = result.canUndo || entry.canUndo();
         if (entry.isError)
             result.rows.push_back({.key = entry.id.toString(),
-                                   .title = entry.fileName,
+                                   .title = shownName(entry.fileName),
                                    .text = entry.actionSummary,
                                    .isError = true});
     }

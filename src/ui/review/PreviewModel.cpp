@@ -4,6 +4,7 @@
 #include "ui/ActionIcon.h"
 #include "ui/CountTexts.h"
 #include "ui/FileKindWord.h"
+#include "ui/ShownName.h"
 
 #include <algorithm>
 #include <utility>
@@ -262,7 +263,7 @@ QVariant PreviewModel::data(const QModelIndex& index, int role) const {
     };
     switch (role) {
     case fileNameRole:
-        return told.name;
+        return shownName(told.name);
     case kindRole:
         return fileKindWord(told.name);
     case ruleNumberRole:

@@ -13,6 +13,7 @@ ListView {
     /// The folder that is dragged.
     property string dragged
     readonly property bool isDragging: dragged !== ""
+    readonly property alias hasMenu: menu.visible
 
     model: App.folders
     clip: true

@@ -136,7 +136,7 @@ T.ItemDelegate {
 
     TipArea {
         anchors.fill: parent
-        text: pointer.pressed ? "" : row.path
+        text: pointer.pressed || row.ListView.view.hasMenu ? "" : row.path
     }
 
     MouseArea {
