@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -21,16 +22,16 @@ void removeRule(const QUuid& ruleID, const QUuid& folderID, AppStore& store, Toa
     const auto found = std::ranges::find(folder->rules, ruleID, &Rule::id);
     if (found == folder->rules.end())
         return;
-    const Rule rule = *found;
     const auto next = found + 1;
     const QUuid before = next == folder->rules.end() ? QUuid() : next->id;
+    const QString said = Texts::tr("“%1” deleted").arg(found->name);
+    auto putBack = [&store, rule = *found, folderID, before] {
+        store.saveRule(rule, folderID);
+        if (!before.isNull())
+            store.moveRuleBefore(before, rule.id, folderID);
+    };
     store.deleteRule(ruleID, folderID);
-    toasts.show(Texts::tr("“%1” deleted").arg(rule.name), Texts::tr("Undo"),
-                [&store, rule, folderID, before] {
-                    store.saveRule(rule, folderID);
-                    if (!before.isNull())
-                        store.moveRuleBefore(before, rule.id, folderID);
-                });
+    toasts.show(said, Texts::tr("Undo"), std::move(putBack));
 }
 
 } // namespace quillon
