@@ -7,12 +7,28 @@ Loader {
     property Item control: parent
     property string text
     property string shortcutText
+    /// Whoever presses a control knows it, and may have opened something in the tip's place.
+    property bool isKnown: false
 
-    active: control !== null && control.hovered && control.enabled && text !== ""
+    active: control !== null && control.hovered && control.enabled && !isKnown && text !== ""
     sourceComponent: ToolTip {
         parent: tip.control
         text: tip.text
         shortcutText: tip.shortcutText
         visible: true
+    }
+
+    Connections {
+        target: tip.control
+
+        function onPressedChanged() {
+            if (tip.control.pressed)
+                tip.isKnown = true;
+        }
+
+        function onHoveredChanged() {
+            if (!tip.control.hovered)
+                tip.isKnown = false;
+        }
     }
 }
