@@ -77,6 +77,7 @@ FocusScope {
         anchors.leftMargin: row.gripInMargin ? -18 : 0
         spoken: row.spoken
         onGrabbed: {
+            row.list.isDragging = true;
             row.grabbedAt = row.y;
             row.grabbedRow = row.index;
             row.grabbedScroll = row.scrolledTo;
@@ -86,7 +87,10 @@ FocusScope {
             const scroller = row.list.scroller;
             row.list.edgeScroll.near(scroller.mapFromItem(null, pointer.x, pointer.y).y, row.follow);
         }
-        onReleased: row.list.edgeScroll.end()
+        onReleased: {
+            row.list.isDragging = false;
+            row.list.edgeScroll.end();
+        }
     }
 
     Label {

@@ -12,7 +12,10 @@ Column {
     property alias delegate: repeater.delegate
     /// What has the focus when the last row is gone.
     property Item whenEmpty
+    /// A row that is dragged lies over what is next to the list, too.
+    property bool isDragging: false
 
+    z: isDragging ? 1 : 0
     spacing: 6
     Accessible.role: Accessible.List
 
