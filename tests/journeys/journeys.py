@@ -161,6 +161,7 @@ def history_undo(programs, is_mouse):
             me.focus_on("list item", "map.pdf")
             me.press("ctrl+z")
         must_be_back("map.pdf")
+        me.see_gone("list item", "map.pdf")
 
 
 def chat(programs, is_mouse):

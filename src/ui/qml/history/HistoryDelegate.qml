@@ -31,6 +31,10 @@ FocusScope {
 
     implicitHeight: Theme.rowActivity
 
+    // It waits for another entry: till then nobody is told of it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     /// A view that moves on gives the focus without a reason, so that none would be shown.
     function takeFocusByKey() {
         forceActiveFocus(Qt.TabFocusReason);

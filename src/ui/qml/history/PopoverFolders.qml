@@ -60,6 +60,10 @@ ListView {
         Accessible.description: statusText
         Accessible.onPressAction: App.popover.openFolder(key)
 
+        // It waits for another folder: till then nobody is told of it.
+        ListView.onPooled: visible = false
+        ListView.onReused: visible = true
+
         function runNow() {
             if (canRun)
                 App.popover.run(key);

@@ -41,8 +41,11 @@ T.ItemDelegate {
     onClicked: edit()
     onActiveFocusChanged: if (activeFocus) ListView.view.currentIndex = index
 
-    // Its rule is gone, and it waits for another: the list says where the focus goes on.
+    // Its rule is gone, and it waits for another: nobody is told of it till then, and the list says where
+    // the focus goes on.
+    ListView.onReused: visible = true
     ListView.onPooled: {
+        visible = false;
         if (!focusWithin)
             return;
         focus = false;

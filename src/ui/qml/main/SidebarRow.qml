@@ -42,6 +42,10 @@ T.ItemDelegate {
 
     onClicked: App.folders.select(key)
 
+    // It waits for another folder: till then nobody is told of it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     function moveBy(offset) {
         App.folders.moveBy(key, offset);
         focusReason = Qt.TabFocusReason;

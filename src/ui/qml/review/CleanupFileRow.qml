@@ -24,6 +24,9 @@ T.CheckDelegate {
     hoverEnabled: true
     checkState: tick
     nextCheckState: () => checkState
+    // It waits for another file: till then nobody is told of it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
     onClicked: ticked(tick !== Qt.Checked)
     Keys.onPressed: event => {
         event.accepted = !isHead && Keystroke.isEnter(event);

@@ -25,6 +25,10 @@ T.ItemDelegate {
     Accessible.name: fileName
     Accessible.description: spoken
 
+    // It waits for another file: till then nobody is told of it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     background: Item {
         Divider {
             visible: !row.isLast
