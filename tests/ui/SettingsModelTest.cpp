@@ -27,6 +27,10 @@ protected:
         ai.server.haveModels({u"phi4:latest"_s});
         QObject::connect(&model, &SettingsModel::changed, [this] { ++changes; });
     }
+    /// Nothing that was asked outlives the test.
+    void TearDown() override {
+        EXPECT_TRUE(until([this] { return !model.onDevice()->isChecking(); }));
+    }
     bool until(const std::function<bool()>& isSo) {
         for (QDeadlineTimer patience(20s); !isSo() && !patience.hasExpired();)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
