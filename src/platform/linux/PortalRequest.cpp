@@ -24,8 +24,11 @@ void PortalRequest::send(QDBusConnection connection, const Call& call, Answered 
     request->failed_ = std::move(failed);
     const QString token = u"quillon"_s + QUuid::createUuid().toString(QUuid::Id128);
     const QString sender = request->connection_.baseService().mid(1).replace(u'.', u'_');
-    // Before the call: the answer may come at once.
+    // Before the call: the answer may come at once, and the portal may go at any moment.
     request->listenAt(portalPath + u"/request/"_s + sender + u'/' + token);
+    const auto* const presence = new QDBusServiceWatcher(
+        portalName, request->connection_, QDBusServiceWatcher::WatchForUnregistration, request);
+    connect(presence, &QDBusServiceWatcher::serviceUnregistered, request, &PortalRequest::lose);
 
     QVariantMap options = call.options;
     options.insert(u"handle_token"_s, token);
@@ -55,10 +58,16 @@ void PortalRequest::handled(const QDBusMessage& reply) {
     const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
     if (path != path_)
         listenAt(path);
-    // Its dialogue goes with it, and there will be no answer.
-    const auto* const watcher = new QDBusServiceWatcher(
-        portalName, connection_, QDBusServiceWatcher::WatchForUnregistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { respond(2, {}); });
+    isTaken_ = true;
+    if (isGone_)
+        respond(2, {});
+}
+
+/// A dialogue goes with its portal, and there will be no answer. A call fails by itself.
+void PortalRequest::lose() {
+    isGone_ = true;
+    if (isTaken_)
+        respond(2, {});
 }
 
 void PortalRequest::respond(uint response, const QVariantMap& results) {

@@ -37,9 +37,12 @@ private:
 
     void listenAt(const QString& path);
     void handled(const QDBusMessage& reply);
+    void lose();
 
     QDBusConnection connection_;
-    QString path_; ///< where the answer comes from
+    QString path_;         ///< where the answer comes from
+    bool isTaken_ = false; ///< the portal has the request
+    bool isGone_ = false;
     Answered answered_;
     std::function<void()> failed_;
 };
