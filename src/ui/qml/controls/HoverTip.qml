@@ -9,26 +9,16 @@ Loader {
     property string shortcutText
     /// Whoever presses a control knows it, and may have opened something in the tip's place.
     property bool isKnown: false
+    readonly property bool isHovered: control !== null && control.hovered
+    readonly property bool isPressed: control !== null && control.pressed
 
-    active: control !== null && control.hovered && control.enabled && !isKnown && text !== ""
+    active: isHovered && control.enabled && !isKnown && text !== ""
+    onIsPressedChanged: isKnown = isKnown || isPressed
+    onIsHoveredChanged: isKnown = isKnown && isHovered
     sourceComponent: ToolTip {
         parent: tip.control
         text: tip.text
         shortcutText: tip.shortcutText
         visible: true
-    }
-
-    Connections {
-        target: tip.control
-
-        function onPressedChanged() {
-            if (tip.control.pressed)
-                tip.isKnown = true;
-        }
-
-        function onHoveredChanged() {
-            if (!tip.control.hovered)
-                tip.isKnown = false;
-        }
     }
 }
