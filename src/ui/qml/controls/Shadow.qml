@@ -17,6 +17,8 @@ BorderImage {
     z: -1
     visible: !Theme.isHighContrast && elevation > 0 && drawnWidth > 0 && drawnHeight > 0
     source: visible ? ["image://shadow", elevation, surfaceRadius, drawnWidth, drawnHeight, Theme.isDark ? "dark" : "light"].join("/") : ""
+    // Its parts are drawn as they are, or one line of them is drawn out: smoothing only costs.
+    smooth: Screen.devicePixelRatio !== 1
     border.left: reach + Math.floor(drawnWidth / 2)
     border.right: border.left
     border.top: reach + Math.floor(drawnHeight / 2)
