@@ -47,7 +47,11 @@ FocusScope {
         y: row.isDragged ? row.draggedTo - row.y : 0
     }
 
-    Keys.onDeletePressed: row.list.removeRow(row.index)
+    // A held key must not go on with the next row.
+    Keys.onDeletePressed: event => {
+        if (!event.isAutoRepeat)
+            row.list.removeRow(row.index);
+    }
     Keys.onEscapePressed: event => {
         event.accepted = row.isDragged;
         if (row.isDragged) {
@@ -117,7 +121,7 @@ FocusScope {
         iconName: "list-remove"
         iconColor: Theme.text1
         label: qsTr("Remove %1").arg(row.spoken)
-        shortcutText: "Delete"
+        shortcutText: qsTr("Del")
         onClicked: row.list.removeRow(row.index)
     }
 }

@@ -20,12 +20,12 @@ T.ItemDelegate {
     property bool isError: false
     /// Reveal and Undo as icons.
     property bool compact: false
-    property int tileSize: 32
+    readonly property int tileSize: 32
     /// Shown in a column of its own when there is one.
     property string folderName
     property color folderColor: Theme.text3
-    property int folderColumn: Theme.scaled(120)
-    property int timeColumn: Theme.scaled(36)
+    readonly property int folderColumn: Theme.scaled(120)
+    readonly property int timeColumn: Theme.scaled(36)
     /// Of the rows of a list, the current one alone is a stop of the Tab key.
     property bool isTabStop: !ListView.view || ListView.isCurrentItem
 
@@ -53,9 +53,10 @@ T.ItemDelegate {
             menu.open(name.x, height);
         else if (Keystroke.isEnter(event))
             askToReveal();
-        else if (event.matches(StandardKey.Undo))
-            askToUndo();
-        else
+        else if (event.matches(StandardKey.Undo)) {
+            if (!event.isAutoRepeat)
+                askToUndo();
+        } else
             event.accepted = false;
     }
 

@@ -38,7 +38,7 @@ Sheet {
         anchors.fill: parent
         Keys.onPressed: event => {
             event.accepted = event.matches(StandardKey.Undo);
-            if (event.accepted)
+            if (event.accepted && !event.isAutoRepeat)
                 sheet.undoNewest();
         }
 
@@ -133,6 +133,7 @@ Sheet {
         text: qsTr("Undo puts a file back where it was. If the name is taken, Quillon adds a number.")
         style: Theme.caption
         color: Theme.text2
+        wrapMode: Text.Wrap
     }
 
     footer: Button {

@@ -17,16 +17,19 @@ FocusScope {
 
     Shortcut {
         sequence: "Ctrl+R"
+        autoRepeat: false
         onActivated: folders.runCurrent()
     }
 
     Shortcut {
         sequence: "Ctrl+Shift+R"
+        autoRepeat: false
         onActivated: App.popover.runAll()
     }
 
     Shortcut {
         sequence: "Ctrl+."
+        autoRepeat: false
         onActivated: App.popover.togglePaused()
     }
 
@@ -159,7 +162,6 @@ FocusScope {
         height: Theme.scaled(39) + 3 * Theme.rowPopover
 
         Label {
-            id: activityTitle
             anchors.left: parent.left
             anchors.leftMargin: 14
             anchors.verticalCenter: seeAll.verticalCenter

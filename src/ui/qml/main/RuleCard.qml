@@ -70,10 +70,17 @@ T.ItemDelegate {
         ListView.view.showCopies();
     }
 
-    Keys.onDeletePressed: App.page.rules.remove(key)
+    // A held key must not go on with the next rule, nor with a copy.
+    Keys.onDeletePressed: event => {
+        if (!event.isAutoRepeat)
+            App.page.rules.remove(key);
+    }
     Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? moveBy(-1) : ListView.view.focusRow(index - 1)
     Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? moveBy(1) : ListView.view.focusRow(index + 1)
-    Keys.onSpacePressed: App.page.rules.setEnabled(key, !isEnabled)
+    Keys.onSpacePressed: event => {
+        if (!event.isAutoRepeat)
+            App.page.rules.setEnabled(key, !isEnabled);
+    }
     Keys.onPressed: event => {
         event.accepted = true;
         if (Keystroke.isEnter(event))
@@ -84,9 +91,10 @@ T.ItemDelegate {
             ListView.view.focusRow(ListView.view.count - 1);
         else if (Keystroke.isMenu(event))
             openMenu();
-        else if (event.key === Qt.Key_D && event.modifiers === Qt.ControlModifier)
-            App.page.rules.duplicate(key);
-        else if (event.key === Qt.Key_C && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier))
+        else if (event.key === Qt.Key_D && event.modifiers === Qt.ControlModifier) {
+            if (!event.isAutoRepeat)
+                App.page.rules.duplicate(key);
+        } else if (event.key === Qt.Key_C && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier))
             openCopyMenu();
         else
             event.accepted = false;

@@ -44,13 +44,11 @@ ListView {
     }
 
     function openMenu(card, anchor) {
-        menu.card = card;
-        menu.popup(anchor, anchor.width - menu.implicitWidth, anchor.height + 2);
+        menu.openFor(card, anchor, anchor.width - menu.implicitWidth, anchor.height + 2);
     }
 
     function openMenuAt(card, place) {
-        menu.card = card;
-        menu.popup(card, place.x, place.y);
+        menu.openFor(card, card, place.x, place.y);
     }
 
     /// Once the menu is open.

@@ -2,15 +2,24 @@ import QtQuick
 import QtQml.Models
 import Quillon
 
-/// What can be done with a rule.
+/// What can be done with a rule: the one that it was opened for, whatever its card shows by then.
 Menu {
     id: menu
 
     property Item list
-    property Item card
-    readonly property string key: card ? card.key : ""
+    property string key
+    property int index: -1
+    readonly property string folderID: App.page.folderID
 
     implicitWidth: Math.max(220, contentWidthOfItems + leftPadding + rightPadding)
+
+    onFolderIDChanged: close()
+
+    function openFor(card, anchor, x, y) {
+        key = card.key;
+        index = card.index;
+        popup(anchor, x, y);
+    }
 
     function showCopies() {
         currentIndex = 2;
@@ -46,7 +55,7 @@ Menu {
         text: qsTr("Move Up")
         iconName: "go-up"
         shortcutText: qsTr("Alt+Up")
-        enabled: menu.card !== null && menu.card.index > 0
+        enabled: menu.index > 0
         onTriggered: App.page.rules.moveBy(menu.key, -1)
     }
 
@@ -54,7 +63,7 @@ Menu {
         text: qsTr("Move Down")
         iconName: "go-down"
         shortcutText: qsTr("Alt+Down")
-        enabled: menu.card !== null && menu.card.index < menu.list.count - 1
+        enabled: menu.index < menu.list.count - 1
         onTriggered: App.page.rules.moveBy(menu.key, 1)
     }
 
