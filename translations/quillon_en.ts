@@ -582,6 +582,10 @@
         <source>Remove %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Del</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FirstInstance</name>
@@ -1390,6 +1394,14 @@
         <source>Actions</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Ctrl+Shift+Enter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RuleList</name>
@@ -1495,6 +1507,63 @@
     </message>
     <message>
         <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RunTexts</name>
+    <message>
+        <source>Couldn’t finish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn’t be saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filed %1 in %2.</source>
+        <comment>a number of files</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filed %1 in %2, %3 couldn’t be.</source>
+        <comment>a number of files, a folder and a number</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filed %1</source>
+        <comment>a number of files</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in %2 couldn’t be filed.</source>
+        <comment>a number of files</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dobbin is thinking about %1 in %2.</source>
+        <comment>a number of files</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dobbin is thinking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that changed in the last few seconds are left to settle first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files are settling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is already tidy.</source>
+        <comment>a folder</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Already tidy</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1703,6 +1772,10 @@
     </message>
     <message>
         <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Esc</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2241,35 +2314,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Filed %1 in %2, %3 couldn’t be.</source>
-        <comment>a number of files, a folder and a number</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 in %2 couldn’t be filed.</source>
-        <comment>a number of files</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Filed %1 in %2.</source>
-        <comment>a number of files</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dobbin is thinking about %1 in %2.</source>
-        <comment>a number of files</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Files that changed in the last few seconds are left to settle first.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is already tidy.</source>
-        <comment>a folder</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Choose a file of rules</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2449,15 +2493,6 @@
 </context>
 <context>
     <name>quillon::PopoverModel</name>
-    <message>
-        <source>Filed %1</source>
-        <comment>a number of files</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Already tidy</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>1 folder needs a look</source>
         <translation type="unfinished"></translation>
@@ -2676,10 +2711,6 @@
     </message>
     <message>
         <source>Edit rule</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>and %L1 more</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

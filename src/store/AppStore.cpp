@@ -436,7 +436,10 @@ Expected<std::size_t> AppStore::importRules(const std::string& path, const QUuid
 }
 
 std::uint64_t AppStore::runRules(const QUuid& folderID, RunCause cause) {
-    return state_->runs.request(folderID, cause);
+    const std::uint64_t number = state_->runs.request(folderID, cause);
+    if (number != 0 && cause == RunCause::asked)
+        Q_EMIT runAsked(folderID, number);
+    return number;
 }
 
 void AppStore::runAllRules(RunCause cause) {

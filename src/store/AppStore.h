@@ -203,6 +203,8 @@ Q_SIGNALS:
     void needsAttentionChanged();
     /// Of an instance, within a minute of local midnight or of waking up on another day.
     void dayChanged();
+    /// The folder will be tidied because the user wants it now, by the run with that number.
+    void runAsked(const QUuid& folderID, std::uint64_t number);
     void runFinished(const quillon::RunReport& report);
     /// After the runs that it leads to have been asked for.
     void questionsResolved(const quillon::QuestionsOutcome& outcome);

@@ -64,7 +64,7 @@ TEST_F(FolderPageTest, TellsWhatCameOfARunByHandAndSpinsOnlyWhenItIsSlow) {
     bench.store->setTiming(TidyTiming::manual, folder);
     bench.addRule(bench.mover(u"txt"_s, "out"), folder);
     write("a.txt");
-    page.run();
+    bench.store->runRules(folder, RunCause::asked); // by Dobbin
     EXPECT_FALSE(page.isRunning());
     bench.pass(400ms);
     EXPECT_TRUE(page.isRunning());

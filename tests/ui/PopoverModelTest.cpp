@@ -93,6 +93,12 @@ TEST_F(PopoverModelTest, TellsOfARunOnlyWhileItTakesLong) {
     model.run(uuidText(folder));
     bench.background.finish();
     EXPECT_EQ(row(0).statusText, u"Already tidy"_s);
+
+    bench.disk.machine.write("in/b.txt", "b");
+    bench.touch("in/b.txt", bench.clock.now());
+    model.run(uuidText(folder));
+    bench.background.finish();
+    EXPECT_EQ(row(0).statusText, u"Files are settling"_s);
 }
 
 } // namespace

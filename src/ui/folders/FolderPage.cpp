@@ -6,6 +6,7 @@
 #include "store/Attention.h"
 #include "ui/CountTexts.h"
 #include "ui/FolderLook.h"
+#include "ui/RunTexts.h"
 #include "ui/TimeTexts.h"
 #include "ui/editor/FolderChoices.h"
 #include "ui/folders/FolderStyles.h"
@@ -25,10 +26,6 @@ constexpr std::size_t entriesShown = 8;
 /// Nothing is said of work that is over sooner.
 constexpr auto untilToldOf = 300ms;
 
-std::size_t successes(const RunReport& report) {
-    return std::size_t(std::ranges::count(report.run.entries, false, &LogEntry::isError));
-}
-
 } // namespace
 
 FolderPage::FolderPage(const Surroundings& around, QObject* parent)
@@ -39,6 +36,7 @@ FolderPage::FolderPage(const Surroundings& around, QObject* parent)
                               &AppStore::isPausedChanged, &AppStore::lastSaveErrorChanged,
                               &AppStore::watchWarningsChanged, &AppStore::needsAttentionChanged})
         connect(&store, signal, this, &FolderPage::refresh);
+    connect(&store, &AppStore::runAsked, this, &FolderPage::beginRun);
     connect(&store, &AppStore::runFinished, this, &FolderPage::endRun);
     minutes_ = around_.timers.every(1min, [this] {
         refresh();
@@ -77,11 +75,15 @@ bool FolderPage::canRun() const {
 }
 
 QString FolderPage::whyNotRun() const {
-    switch (access()) {
+    return folder() ? whyNotRun(*folder(), around_.store) : QString();
+}
+
+QString FolderPage::whyNotRun(const WatchedFolder& folder, const AppStore& store) {
+    switch (store.folderAccess().value(folder.id, FolderAccess::ok)) {
     case FolderAccess::missing:
-        return tr("%1 can’t be found").arg(name());
+        return tr("%1 can’t be found").arg(folder.name());
     case FolderAccess::denied:
-        return tr("Quillon isn’t allowed to read %1").arg(name());
+        return tr("Quillon isn’t allowed to read %1").arg(folder.name());
     case FolderAccess::ok:
         break;
     }
@@ -154,7 +156,7 @@ void FolderPage::runFolder(const QString& folderID) {
     const auto id = uuidFromText(folderID);
     if (id && around_.store.folder(*id) &&
         around_.store.folderAccess().value(*id, FolderAccess::ok) == FolderAccess::ok)
-        startRun(*id);
+        around_.store.runRules(*id, RunCause::asked);
 }
 
 void FolderPage::runAll() {
@@ -162,10 +164,7 @@ void FolderPage::runAll() {
         runFolder(uuidText(each.id));
 }
 
-void FolderPage::startRun(const QUuid& folderID) {
-    const std::uint64_t number = around_.store.runRules(folderID, RunCause::asked);
-    if (number == 0)
-        return;
+void FolderPage::beginRun(const QUuid& folderID, std::uint64_t number) {
     Run& run = runs_[folderID];
     run.number = number;
     if (!run.isTold)
@@ -179,8 +178,8 @@ void FolderPage::endRun(const RunReport& report) {
     const auto run = runs_.find(report.folderID);
     if (run != runs_.end() && report.number >= run->second.number) {
         runs_.erase(run);
-        const QString text = outcomeText(report);
-        if (successes(report) < report.run.entries.size())
+        const QString text = runTexts(report).sentence;
+        if (std::ranges::any_of(report.run.entries, &LogEntry::isError))
             around_.toasts.show(text, tr("Show Errors"),
                                 [self = QPointer(this), id = uuidText(report.folderID)] {
                                     if (self)
@@ -192,31 +191,6 @@ void FolderPage::endRun(const RunReport& report) {
     }
     if (folder() && report.folderID == folder()->id)
         countFiles();
-}
-
-QString FolderPage::outcomeText(const RunReport& report) {
-    const QString& name = report.folderName;
-    if (report.unlisted)
-        return report.unlisted->message;
-    if (report.run.stopped)
-        return report.run.stopped->message;
-    if (report.unsaved)
-        return report.unsaved->message;
-    const std::size_t filed = successes(report);
-    const std::size_t failed = report.run.entries.size() - filed;
-    if (failed > 0 && filed > 0)
-        return tr("Filed %1 in %2, %3 couldn’t be.", "a number of files, a folder and a number")
-            .arg(fileCount(filed), name, QString::number(failed));
-    if (failed > 0)
-        return tr("%1 in %2 couldn’t be filed.", "a number of files").arg(fileCount(failed), name);
-    if (filed > 0)
-        return tr("Filed %1 in %2.", "a number of files").arg(fileCount(filed), name);
-    if (!report.run.waiting.isEmpty())
-        return tr("Dobbin is thinking about %1 in %2.", "a number of files")
-            .arg(fileCount(std::size_t(report.run.waiting.size())), name);
-    if (report.deferred > report.stalled)
-        return tr("Files that changed in the last few seconds are left to settle first.");
-    return tr("%1 is already tidy.", "a folder").arg(name);
 }
 
 void FolderPage::importRules() {

@@ -69,6 +69,8 @@ public:
     [[nodiscard]] bool canRun() const;
     /// A sentence; empty when it can be.
     [[nodiscard]] QString whyNotRun() const;
+    /// The same for any folder.
+    [[nodiscard]] static QString whyNotRun(const WatchedFolder& folder, const AppStore& store);
     /// Asked for by hand, and taking long enough to be told.
     [[nodiscard]] bool isRunning() const;
     [[nodiscard]] bool hasRules() const;
@@ -115,7 +117,7 @@ Q_SIGNALS:
     void errorsAsked(const QString& folderID);
 
 private:
-    /// A run that was asked for here.
+    /// A run that was asked for, here or elsewhere.
     struct Run {
         std::uint64_t number = 0;
         bool isTold = false; ///< it takes long enough for that
@@ -129,9 +131,8 @@ private:
     void refreshDetails();
     void refreshBanner();
     void countFiles();
-    void startRun(const QUuid& folderID);
+    void beginRun(const QUuid& folderID, std::uint64_t number);
     void endRun(const RunReport& report);
-    [[nodiscard]] static QString outcomeText(const RunReport& report);
     [[nodiscard]] Trouble findTrouble() const;
 
     Surroundings around_;

@@ -4,6 +4,7 @@
 #include "store/Schedules.h"
 #include "ui/CountTexts.h"
 #include "ui/FolderLook.h"
+#include "ui/RunTexts.h"
 #include "ui/TimeTexts.h"
 
 #include <algorithm>
@@ -95,13 +96,9 @@ void PopoverModel::endRun(const RunReport& report) {
     if (run == runs_.end() || report.number < run->second.number)
         return;
     runs_.erase(run);
-    const auto& entries = report.run.entries;
-    const auto filed = std::size_t(std::ranges::count(entries, false, &LogEntry::isError));
-    if (!report.unlisted && (filed > 0 || entries.empty()))
+    if (const QString text = runTexts(report).brief; !text.isEmpty())
         outcomes_[report.folderID] = {
-            .text = filed > 0 ? tr("Filed %1", "a number of files").arg(fileCount(filed))
-                              : tr("Already tidy"),
-            .end = timers_.after(outcomeStays, [this, id = report.folderID] {
+            .text = text, .end = timers_.after(outcomeStays, [this, id = report.folderID] {
                 outcomes_.erase(id);
                 refresh();
             })};
