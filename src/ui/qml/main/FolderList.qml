@@ -13,6 +13,7 @@ ListView {
     /// The folder that is dragged.
     property string dragged
     readonly property bool isDragging: dragged !== ""
+    readonly property real pitch: Theme.rowSidebar + spacing
     readonly property alias hasMenu: menu.visible
 
     model: App.folders
@@ -48,16 +49,13 @@ ListView {
         menu.key = row.key;
         menu.name = row.name;
         menu.index = row.index;
+        menu.canRun = !row.isTrouble;
         menu.popup(row, x, y);
     }
 
     function insertionAt(y) {
         const place = Math.max(0, Math.min(height - 1, y)) + contentY;
-        const row = indexAt(width / 2, place);
-        if (row < 0)
-            return count;
-        const item = itemAtIndex(row);
-        return place > item.y + item.height / 2 ? row + 1 : row;
+        return Math.max(0, Math.min(count, Math.round((place - originY + spacing / 2) / pitch)));
     }
 
     /// Places are those of this list.
@@ -111,7 +109,7 @@ ListView {
         parent: list.contentItem
         visible: list.insertion >= 0
         x: LayoutMirroring.enabled ? 11 : 10
-        y: list.originY + list.insertion * Theme.rowSidebar + list.insertion * 2 - 1
+        y: list.originY + list.insertion * list.pitch - list.spacing / 2
         z: 2
         width: list.width - 21
     }
@@ -141,14 +139,13 @@ ListView {
         property string key
         property string name
         property int index: -1
+        property bool canRun: false
 
         MenuItem {
             text: qsTr("Run Now")
             iconName: "media-playback-start"
-            onTriggered: {
-                App.folders.select(menu.key);
-                App.page.run();
-            }
+            enabled: menu.canRun
+            onTriggered: App.page.runFolder(menu.key)
         }
         MenuDivider {}
         MenuItem {
