@@ -116,6 +116,9 @@ TEST_F(PreviewModelTest, SaysWhyThereIsNothing) {
     EXPECT_EQ(model.lookingText(), u"Checking 2 files…"_s);
     bench.background.finish();
     EXPECT_TRUE(model.hasFailed());
+    bench.store->refreshAccess();
+    bench.background.finish();
+    EXPECT_EQ(model.whyNotRun(), u"in can’t be found"_s);
 }
 
 TEST_F(PreviewModelTest, GivesUpWhenItsSheetGoes) {

@@ -5,6 +5,7 @@
 #include "ui/CountTexts.h"
 #include "ui/FileKindWord.h"
 #include "ui/ShownName.h"
+#include "ui/folders/FolderPage.h"
 
 #include <algorithm>
 #include <utility>
@@ -71,6 +72,7 @@ PreviewModel::PreviewModel(Surroundings around, QObject* parent)
         if (state_ != State::closed && around_.sheets.current() != sheetName)
             close();
     });
+    connect(&around_.store, &AppStore::folderAccessChanged, this, &PreviewModel::changed);
 }
 
 PreviewModel::~PreviewModel() = default;
@@ -216,7 +218,13 @@ void PreviewModel::setFilterText(const QString& words) {
 
 bool PreviewModel::canRun() const {
     const auto& counts = forecast_->counts;
-    return state_ == State::shown && counts[0] + counts[2] > 0;
+    return state_ == State::shown && counts[0] + counts[2] > 0 &&
+           FolderPage::whyNotRun(folder_, around_.store).isEmpty();
+}
+
+QString PreviewModel::whyNotRun() const {
+    const QString why = FolderPage::whyNotRun(folder_, around_.store);
+    return why.isEmpty() ? emptyText() : why;
 }
 
 /// What is shown stays until it is known which files the words fit.

@@ -31,6 +31,7 @@ class PreviewModel final : public QAbstractListModel {
     Q_PROPERTY(int fate READ fate WRITE setFate NOTIFY changed)
     Q_PROPERTY(QString filterText READ filterText WRITE setFilterText NOTIFY changed)
     Q_PROPERTY(bool canRun READ canRun NOTIFY changed)
+    Q_PROPERTY(QString whyNotRun READ whyNotRun NOTIFY changed)
 
 public:
     /// All borrowed for the model's life.
@@ -68,8 +69,10 @@ public:
     void setFate(int fate);
     [[nodiscard]] QString filterText() const { return filter_; }
     void setFilterText(const QString& words);
-    /// Whether a run would do anything, or Dobbin would be asked in it.
+    /// Whether the folder can be tidied, and that would do anything or ask Dobbin.
     [[nodiscard]] bool canRun() const;
+    /// A sentence; empty when it can be, or while that isn't known.
+    [[nodiscard]] QString whyNotRun() const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

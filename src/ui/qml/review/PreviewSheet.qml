@@ -149,8 +149,8 @@ Sheet {
             kind: "primary"
             iconName: "media-playback-start"
             text: qsTr("Run Now")
-            enabled: App.preview.canRun && App.page.canRun
-            disabledReason: App.page.canRun ? App.preview.emptyText : App.page.whyNotRun
+            enabled: App.preview.canRun
+            disabledReason: App.preview.whyNotRun
             onClicked: {
                 // Another folder may have been selected meanwhile, from the popover.
                 const folder = App.preview.folderID;
