@@ -4,7 +4,6 @@
 #include "assistant/QuietJudge.h"
 #include "assistant/backends/AIManager.h"
 #include "service/Services.h"
-#include "ui/editor/DobbinAvailability.h"
 
 namespace quillon {
 
@@ -14,8 +13,9 @@ std::function<std::unique_ptr<FileJudge>()> quietJudges(Services& services) {
     return [&services] { return std::make_unique<QuietJudge>(services.judge()); };
 }
 
-RuleEditor::Surroundings editorSurroundings(const AppModel::Surroundings& around, Sheets& sheets,
-                                            Toasts& toasts) {
+RuleEditor::Surroundings
+editorSurroundings(const AppModel::Surroundings& around, Sheets& sheets, Toasts& toasts,
+                   std::function<QCoro::Task<QString>()> whyDobbinIsUnavailable) {
     Services& services = around.services;
     return {
         .store = around.store,
@@ -29,8 +29,7 @@ RuleEditor::Surroundings editorSurroundings(const AppModel::Surroundings& around
         .drafting = {.platform = services.platform(),
                      .background = services.background(),
                      .assistant = [&services]() -> ModelAccess& { return services.assistant(); },
-                     .whyUnavailable =
-                         [&services] { return whyDobbinIsUnavailable(services.assistant()); }}};
+                     .whyUnavailable = std::move(whyDobbinIsUnavailable)}};
 }
 
 } // namespace
@@ -54,7 +53,10 @@ AppModel::AppModel(const Surroundings& around, QObject* parent)
                 .background = around.services.background(),
                 .fileManager = around.fileManager,
                 .toasts = toasts_})
-    , editor_(editorSurroundings(around, sheets_, toasts_))
+    , editor_(editorSurroundings(around, sheets_, toasts_,
+                                 [this, &services = around.services] {
+                                     return whyDobbinIsUnavailable(services.assistant());
+                                 }))
     , preview_({.store = around.store,
                 .platform = around.services.platform(),
                 .background = around.services.background(),
@@ -122,8 +124,24 @@ AppModel::AppModel(const Surroundings& around, QObject* parent)
                    .places = userPlaces}) {
     connect(settings_.claude(), &ClaudeSettings::changed, this,
             [this] { suggestions_.setWanted(settings_.claude()->suggestRules()); });
+    connect(settings_.onDevice(), &OnDeviceCard::changed, this, [this] {
+        if (!settings_.onDevice()->isChecking() && !settings_.onDevice()->isDownloading())
+            lookForDobbin();
+    });
 }
 
 AppModel::~AppModel() = default;
+
+QCoro::Task<QString> AppModel::whyDobbinIsUnavailable(AIManager& manager) {
+    for (const auto signal : {&AIManager::settingsChanged, &AIManager::keySuffixChanged})
+        connect(&manager, signal, this, &AppModel::lookForDobbin, Qt::UniqueConnection);
+    return manager.whyUnavailable();
+}
+
+/// A rule is written while he is being set up in the settings.
+void AppModel::lookForDobbin() {
+    if (editor_.isOpen())
+        editor_.dobbin()->refresh();
+}
 
 } // namespace quillon

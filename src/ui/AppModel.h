@@ -74,6 +74,9 @@ public:
     [[nodiscard]] Toasts* toasts() { return &toasts_; }
 
 private:
+    QCoro::Task<QString> whyDobbinIsUnavailable(AIManager& manager);
+    void lookForDobbin();
+
     Sheets sheets_;
     Toasts toasts_;
     FolderListModel folders_;

@@ -236,7 +236,9 @@ TEST(AIManager, TellsSomebodyWithAKeyOfTheirKeyring) {
     bench.useClaude();
     bench.keychain.refusal = Error{ErrorKind::locked, u"The keyring is locked"_s};
     EXPECT_EQ(bench.ask(), u"The keyring is locked"_s);
+    EXPECT_EQ(QCoro::waitFor(bench.manager->whyUnavailable()), u"The keyring is locked."_s);
     bench.server.haveModels({u"llama3.2:latest"_s});
+    EXPECT_EQ(QCoro::waitFor(bench.manager->whyUnavailable()), QString());
     bench.server.play("/api/chat", ModelServer::chatAnswer(u"Hay"_s));
     EXPECT_EQ(bench.ask(), u"Hay"_s);
 }
@@ -270,8 +272,7 @@ TEST(AIManager, SavesAKeyOnlyWhenItIsGood) {
 
     bench.server.play("/v1/models", {.body = "{}"});
     bench.keychain.refusal = Error{ErrorKind::locked, u"The keyring is locked"_s};
-    EXPECT_EQ(save(u"sk-test"_s),
-              u"Quillon couldn't save the key to your Keychain. The keyring is locked"_s);
+    EXPECT_EQ(save(u"sk-test"_s), u"Quillon couldn't save the key to your keyring."_s);
     EXPECT_FALSE(QCoro::waitFor(manager.removeKey()));
     EXPECT_TRUE(nothingChanged());
 

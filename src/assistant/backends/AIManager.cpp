@@ -61,6 +61,17 @@ QCoro::Task<bool> AIManager::asksClaude() {
     co_return !life.expired() && useClaude() && !apiKey_.isEmpty();
 }
 
+QCoro::Task<QString> AIManager::whyUnavailable() {
+    const std::weak_ptr<const void> life = life_;
+    const std::optional<Error> keyTrouble = co_await ensureKey();
+    if (life.expired() || (useClaude() && !apiKey_.isEmpty()))
+        co_return QString();
+    (void)co_await look();
+    if (life.expired() || status_.kind == OnDeviceStatus::Kind::available)
+        co_return QString();
+    co_return keyTrouble ? keyTrouble->message + u'.' : status_.message;
+}
+
 QCoro::Task<std::optional<Error>> AIManager::ensureKey() {
     if (!useClaude() || !apiKey_.isEmpty())
         co_return std::nullopt;
@@ -185,9 +196,7 @@ QCoro::Task<Expected<void>> AIManager::saveKey(QString typed) {
         [this, &key](auto done) { keychain_.save(key, account, std::move(done)); });
     const Expected<void> saved = co_await saving;
     if (!saved)
-        co_return failure(saved.error().kind,
-                          u"Quillon couldn't save the key to your Keychain. "_s +
-                              saved.error().message);
+        co_return failure(saved.error().kind, u"Quillon couldn't save the key to your keyring."_s);
     if (life.expired())
         co_return gone();
     setKey(key);

@@ -55,6 +55,10 @@ public:
     /// Whether send() would ask Claude now, which it finds out in the same way.
     [[nodiscard]] QCoro::Task<bool> asksClaude();
 
+    /// Why send() would fail now, in a sentence, as far as that is known beforehand; empty when
+    /// something can be asked.
+    [[nodiscard]] QCoro::Task<QString> whyUnavailable();
+
     [[nodiscard]] bool suggestRules() const;
     [[nodiscard]] bool readContents() const override;
     [[nodiscard]] bool useClaude() const;

@@ -162,7 +162,10 @@ void ChatModel::refreshNotice() {
 
 QCoro::Task<> ChatModel::refreshPlace() {
     const QPointer<ChatModel> alive(this);
-    const bool asksClaude = co_await around_.assistant().asksClaude();
+    AIManager& manager = around_.assistant();
+    for (const auto signal : {&AIManager::settingsChanged, &AIManager::keySuffixChanged})
+        connect(&manager, signal, this, &ChatModel::refreshPlace, Qt::UniqueConnection);
+    const bool asksClaude = co_await manager.asksClaude();
     if (!alive)
         co_return;
     place_ = asksClaude ? label(around_.assistant().claudeModel()) : tr("On this computer");

@@ -99,8 +99,6 @@ QString OnDeviceCard::badge() const {
         return tr("Downloading");
     if (!state_)
         return {};
-    if (statusOf(*state_).kind == OnDeviceStatus::Kind::unsupported)
-        return tr("Not available");
     switch (state_->kind) {
     case Kind::ready:
         return tr("Ready");
@@ -158,14 +156,11 @@ OnDeviceCard::Step OnDeviceCard::step() const {
         return Step::stop;
     if (isAsking_)
         return Step::confirm;
-    if (isMissing())
-        return Step::download;
-    const bool isHopeless = state_ && statusOf(*state_).kind == OnDeviceStatus::Kind::unsupported;
-    return isHopeless ? Step::nothing : Step::check;
+    return isMissing() ? Step::download : Step::check;
 }
 
 QString OnDeviceCard::stepName() const {
-    constexpr std::array names{"nothing", "check", "download", "confirm", "stop"};
+    constexpr std::array names{"check", "download", "confirm", "stop"};
     return QString::fromUtf8(names.at(static_cast<std::size_t>(step())));
 }
 

@@ -25,7 +25,7 @@ class OnDeviceCard final : public QObject {
 
 public:
     /// What can be done now.
-    enum class Step : std::uint8_t { nothing, check, download, confirm, stop };
+    enum class Step : std::uint8_t { check, download, confirm, stop };
 
     /// Borrows both for its life; the manager is made when something is looked at.
     OnDeviceCard(const Settings& settings, std::function<AIManager&()> assistant,
@@ -47,6 +47,7 @@ public:
     [[nodiscard]] Step step() const;
     [[nodiscard]] QString stepName() const;
     [[nodiscard]] bool isChecking() const { return isChecking_; }
+    [[nodiscard]] bool isDownloading() const { return download_ != nullptr; }
     [[nodiscard]] qreal progress() const;
     /// What to call the model in a sentence.
     [[nodiscard]] QString name() const;

@@ -63,8 +63,9 @@ void RuleDrafting::refresh() {
 
 QCoro::Task<> RuleDrafting::lookWhetherAvailable() {
     const auto isAlive = isAlive_;
+    const std::uint64_t look = ++looks_;
     QString why = co_await around_.whyUnavailable();
-    if (!*isAlive || unavailable_ == why)
+    if (!*isAlive || look != looks_ || unavailable_ == why)
         co_return;
     unavailable_ = std::move(why);
     Q_EMIT changed();

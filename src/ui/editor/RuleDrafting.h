@@ -42,7 +42,7 @@ public:
     Q_INVOKABLE void draft();
     Q_INVOKABLE void stop();
     /// Looks again whether Dobbin can be asked.
-    Q_INVOKABLE void refresh();
+    void refresh();
 
     [[nodiscard]] QString sentence() const { return sentence_; }
     void setSentence(const QString& sentence);
@@ -77,6 +77,7 @@ private:
     QStringList warnings_;
     QString error_;
     QString unavailable_;
+    std::uint64_t looks_ = 0; ///< whether he can be asked
     std::stop_source asking_; ///< a model
     std::shared_ptr<bool> isWanted_ = std::make_shared<bool>(true);
     std::shared_ptr<bool> isAlive_ = std::make_shared<bool>(true);
