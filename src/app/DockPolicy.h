@@ -15,7 +15,7 @@ struct DockPolicy {
     }
     /// The tray item is the only way in then, so there must be one.
     [[nodiscard]] bool skipsTaskbar() const {
-        return !showsDockIcon && tray == TrayItem::Place::shown;
+        return !showsDockIcon && hasOnboarded && tray == TrayItem::Place::shown;
     }
     /// Otherwise it is minimized, so that the taskbar still has it.
     [[nodiscard]] bool closingHides() const { return tray != TrayItem::Place::nowhere; }

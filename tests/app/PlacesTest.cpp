@@ -19,7 +19,7 @@ TEST(DockPolicy, leavesAWayInWhateverIsChosen) {
     const Case cases[] = {
         {{.showsDockIcon = true, .hasOnboarded = true, .tray = Place::shown}, true, false, true},
         {{.showsDockIcon = false, .hasOnboarded = true, .tray = Place::shown}, false, true, true},
-        {{.showsDockIcon = false, .hasOnboarded = false, .tray = Place::shown}, true, true, true},
+        {{.showsDockIcon = false, .hasOnboarded = false, .tray = Place::shown}, true, false, true},
         {{.showsDockIcon = false, .hasOnboarded = true, .tray = Place::unknown},
          false,
          false,
