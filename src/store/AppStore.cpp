@@ -183,6 +183,10 @@ QStringList AppStore::watchWarnings() const {
     return {warnings.begin(), warnings.end()};
 }
 
+bool AppStore::watchWarnsOf(const QUuid& folderID) const {
+    return state_->coordinator && state_->coordinator->warnsOf(folderID);
+}
+
 const QStringList& AppStore::openingWarnings() const {
     return state_->core.session->warnings();
 }

@@ -78,6 +78,8 @@ public:
     [[nodiscard]] const std::optional<Error>& lastSaveError() const;
     /// Sentences about folders that can't be watched as they should.
     [[nodiscard]] QStringList watchWarnings() const;
+    /// Whether one of them is about this folder.
+    [[nodiscard]] bool watchWarnsOf(const QUuid& folderID) const;
     /// Sentences about what was found when the store was opened.
     [[nodiscard]] const QStringList& openingWarnings() const;
     [[nodiscard]] const QHash<QUuid, Timestamp>& lastScheduledRun() const;

@@ -74,4 +74,9 @@ std::vector<QString> WatchCoordinator::warnings() const {
     return sentences;
 }
 
+bool WatchCoordinator::warnsOf(const QUuid& folderID) const {
+    const auto watch = watchers_.find(folderID);
+    return watch != watchers_.end() && watch->second->watcher->warning();
+}
+
 } // namespace quillon

@@ -40,6 +40,8 @@ public:
 
     /// Of folders that can't be watched as they should, in the order of the ids.
     [[nodiscard]] std::vector<QString> warnings() const;
+    /// Whether one of them is about this folder.
+    [[nodiscard]] bool warnsOf(const QUuid& folderID) const;
 
 private:
     struct Watch;

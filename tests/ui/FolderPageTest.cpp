@@ -99,6 +99,10 @@ TEST_F(FolderPageTest, TellsWhatCameOfARunByHandAndSpinsOnlyWhenItIsSlow) {
 
 TEST_F(FolderPageTest, ShowsTheGravestTroubleAlone) {
     EXPECT_TRUE(page.banner().kind.isEmpty());
+    bench.watching.warn(bench.disk.machine.at("in"), u"“in” is on a network drive"_s);
+    bench.background.finish();
+    EXPECT_EQ(page.banner().text,
+              u"in can't be watched live, so Quillon checks it every few minutes."_s);
     page.setTiming(int(TidyTiming::hourly));
     bench.store->setPaused(true);
     EXPECT_EQ(page.banner().text, u"Paused — nothing runs automatically"_s);

@@ -346,7 +346,7 @@ FolderPage::Trouble FolderPage::findTrouble() const {
         return Trouble::errors;
     if (!store.openingWarnings().isEmpty() && !isOpeningTold_)
         return Trouble::opening;
-    return store.watchWarnings().isEmpty() ? Trouble::none : Trouble::watch;
+    return folder() && store.watchWarnsOf(folder()->id) ? Trouble::watch : Trouble::none;
 }
 
 void FolderPage::refreshBanner() {
@@ -386,7 +386,9 @@ void FolderPage::refreshBanner() {
         banner_.kind = u"error"_s;
         break;
     case Trouble::watch:
-        banner_ = warn(store.watchWarnings().join(u' '), {});
+        banner_ = warn(
+            tr("%1 can't be watched live, so Quillon checks it every few minutes.").arg(name()),
+            {});
         break;
     case Trouble::opening:
         banner_ = warn(store.openingWarnings().join(u' '), {tr("Dismiss")});
