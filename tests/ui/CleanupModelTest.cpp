@@ -238,6 +238,16 @@ TEST_F(CleanupModelTest, TurnsRecipesIntoRulesOfTheFolder) {
     EXPECT_EQ(bench.store->folder(folder)->rules[2].conditions.front().value, u"45"_s);
     EXPECT_EQ(model.keepText(), u"4 rules added to in."_s);
     EXPECT_FALSE(model.canKeep());
+    EXPECT_TRUE(model.hasAdded());
+
+    sheets.close();
+    make("Screenshot.png", 1);
+    open();
+    model.tidy();
+    bench.background.finish();
+    model.keep();
+    EXPECT_EQ(model.keepText(), u"in has a rule for each recipe already."_s);
+    EXPECT_FALSE(model.hasAdded());
 }
 
 TEST_F(CleanupModelTest, TellsAnEmptyFolderFromOneThatCannotBeRead) {

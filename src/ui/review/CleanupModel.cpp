@@ -57,6 +57,7 @@ void CleanupModel::show(const WatchedFolder& folder) {
     result_ = {};
     resultRows_.setRows({});
     hasKept_ = false;
+    hasAdded_ = false;
     keepText_ = tr("Turn these recipes into rules. The ones you left unticked are added switched "
                    "off.");
     Q_EMIT opened();
@@ -248,6 +249,7 @@ void CleanupModel::keep() {
         return;
     std::vector<Rule> rules = review_.choice().keptRules(*folder);
     hasKept_ = true;
+    hasAdded_ = !rules.empty();
     keepText_ = rules.empty() ? tr("%1 has a rule for each recipe already.").arg(folder->name())
                               : tr("%1 added to %2.", "a number of rules, a folder")
                                     .arg(ruleCount(rules.size()), folder->name());

@@ -41,6 +41,7 @@ class CleanupModel final : public QObject {
     Q_PROPERTY(bool hasFiled READ hasFiled NOTIFY changed)
     Q_PROPERTY(bool canUndo READ canUndo NOTIFY changed)
     Q_PROPERTY(bool canKeep READ canKeep NOTIFY changed)
+    Q_PROPERTY(bool hasAdded READ hasAdded NOTIFY changed)
     Q_PROPERTY(QString keepText READ keepText NOTIFY changed)
 
 public:
@@ -110,6 +111,8 @@ public:
     [[nodiscard]] bool hasFiled() const { return result_.filed > 0; }
     [[nodiscard]] bool canUndo() const { return state_ == State::result && result_.canUndo; }
     [[nodiscard]] bool canKeep() const { return state_ == State::result && !hasKept_; }
+    /// keep() has added rules.
+    [[nodiscard]] bool hasAdded() const { return hasAdded_; }
     [[nodiscard]] QString keepText() const { return keepText_; }
 
     /// For tests.
@@ -149,6 +152,7 @@ private:
     CleanupResult result_;
     KeyedRows<CleanupResultRow> resultRows_;
     bool hasKept_ = false;
+    bool hasAdded_ = false;
     QString keepText_;
 };
 

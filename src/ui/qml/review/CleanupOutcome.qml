@@ -115,7 +115,7 @@ Item {
             id: words
             anchors.left: parent.left
             anchors.leftMargin: 44
-            anchors.right: App.cleanup.canKeep ? keepButton.left : badge.left
+            anchors.right: App.cleanup.canKeep ? keepButton.left : App.cleanup.hasAdded ? badge.left : parent.right
             anchors.rightMargin: Theme.s3
             y: 14
 
@@ -150,7 +150,7 @@ Item {
             anchors.right: parent.right
             anchors.rightMargin: 14
             anchors.verticalCenter: parent.verticalCenter
-            visible: !App.cleanup.canKeep
+            visible: App.cleanup.hasAdded
             kind: "ok"
             glyph: "tick"
             text: qsTr("Added")
