@@ -44,6 +44,11 @@ FocusScope {
         width: parent.width
         height: Math.max(60, names.height + 2 * Theme.s3)
 
+        DragArea {
+            width: parent.width
+            height: 60
+        }
+
         Glyph {
             anchors.horizontalCenter: parent.left
             anchors.horizontalCenterOffset: 33
