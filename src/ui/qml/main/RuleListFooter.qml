@@ -31,7 +31,6 @@ Item {
         kind: "link"
         opensMore: true
         text: qsTr("See all")
-        shortcutText: "Ctrl+H"
         toolTip: qsTr("Everything that was done in %1").arg(App.page.name)
         onClicked: App.history.open(App.page.folderID)
     }
@@ -127,9 +126,10 @@ Item {
                         onActiveFocusChanged: if (activeFocus) card.current = place.index
                         Keys.onPressed: event => {
                             const target = Keystroke.inList(event, place.index, repeater.count);
-                            event.accepted = target !== undefined;
-                            if (event.accepted)
+                            if (target !== undefined) {
+                                event.accepted = true;
                                 card.go(target);
+                            }
                         }
                     }
                 }
