@@ -108,6 +108,7 @@ ListView {
 
         Label {
             id: status
+            width: Math.min(implicitWidth, row.width / 2)
             anchors.right: runButton.left
             anchors.rightMargin: 10
             anchors.verticalCenter: parent.verticalCenter

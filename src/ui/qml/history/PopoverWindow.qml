@@ -11,17 +11,22 @@ Window {
     property int margin: 40
     property bool isSquare: margin === 0
 
-    width: 340 + 2 * margin
+    width: Math.min(Theme.scaled(340), Screen.desktopAvailableWidth) + 2 * margin
     height: Math.min(Theme.scaled(460), Screen.desktopAvailableHeight) + 2 * margin
     title: qsTr("Quillon")
     color: "transparent"
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
-    onVisibleChanged: App.popover.isShown = visible
+    onVisibleChanged: {
+        App.popover.isShown = visible;
+        if (visible)
+            entrance.start();
+    }
 
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     Rectangle {
+        id: surface
         anchors.fill: parent
         anchors.margins: popover.margin
         radius: popover.isSquare ? 0 : Theme.rSheet
@@ -37,5 +42,15 @@ Window {
             anchors.fill: parent
             focus: true
         }
+    }
+
+    NumberAnimation {
+        id: entrance
+        target: surface
+        property: "opacity"
+        from: 0
+        to: 1
+        duration: Theme.base
+        easing.type: Easing.OutCubic
     }
 }
