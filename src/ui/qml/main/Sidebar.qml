@@ -122,6 +122,7 @@ Item {
             anchors.left: parent.left
             anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, parent.width - icons.width - Theme.s4 - 10 - 6)
             kind: "plain"
             iconName: "list-add"
             text: qsTr("Add Folder")
@@ -131,6 +132,7 @@ Item {
         }
 
         Row {
+            id: icons
             anchors.right: parent.right
             anchors.rightMargin: Theme.s4
             anchors.verticalCenter: parent.verticalCenter
