@@ -10,7 +10,7 @@ T.Menu {
     property Item opener
     property bool isByKeys: false
 
-    implicitWidth: Math.max(200, contentWidthOfItems + leftPadding + rightPadding)
+    implicitWidth: Math.min(Theme.scaled(320), Math.max(200, contentWidthOfItems + leftPadding + rightPadding))
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     margins: 12
     padding: 5

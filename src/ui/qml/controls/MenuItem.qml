@@ -51,12 +51,14 @@ T.MenuItem {
             id: end
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            width: control.subMenu || control.isChoice ? 14 : hint.implicitWidth
+            width: control.subMenu || control.isChoice ? 14 : hint.width
             height: parent.height
 
             Label {
                 id: hint
                 anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(implicitWidth, Math.max(control.width / 2, control.availableWidth - 26 - words.implicitWidth - Theme.s2))
+                elide: Text.ElideMiddle
                 visible: text !== ""
                 text: control.shortcutText
                 style: Theme.caption

@@ -34,7 +34,7 @@ Field {
     CalendarPopup {
         id: popup
         y: Theme.controlInRow + 4
-        x: date.width - width
+        x: date.LayoutMirroring.enabled ? 0 : date.width - width
         calendar: date.calendar
         onChosen: day => date.edited(day)
     }

@@ -23,8 +23,7 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     onClicked: menu.open()
     Keys.onPressed: event => {
-        const opens = event.key === Qt.Key_Return || event.key === Qt.Key_Enter || event.key === Qt.Key_Down;
-        event.accepted = opens && event.modifiers === Qt.NoModifier;
+        event.accepted = Keystroke.isEnter(event) || event.key === Qt.Key_Down && event.modifiers === Qt.NoModifier;
         if (event.accepted)
             menu.open();
     }
@@ -95,6 +94,7 @@ T.AbstractButton {
 
     Menu {
         id: menu
+        x: control.mirrored ? control.width - width : 0
         y: control.height + 4
         width: Math.max(implicitWidth, control.width)
 
