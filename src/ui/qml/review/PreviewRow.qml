@@ -16,9 +16,11 @@ T.ItemDelegate {
     required property string moreActions
     required property string moreIcon
     required property string spoken
+    property int fileColumn
+    property int ruleColumn
+    property int actionColumn
     property bool isLast: false
 
-    implicitHeight: Theme.scaled(54)
     focusPolicy: Qt.StrongFocus
     activeFocusOnTab: ListView.isCurrentItem
     Accessible.role: Accessible.ListItem
@@ -55,9 +57,9 @@ T.ItemDelegate {
 
         Label {
             anchors.left: parent.left
-            anchors.leftMargin: 58
+            anchors.leftMargin: row.fileColumn
             anchors.verticalCenter: parent.verticalCenter
-            width: row.ruleName === "" ? parent.width - 72 : 224
+            width: (row.ruleName === "" ? parent.width - 14 : row.ruleColumn - Theme.s3) - row.fileColumn
             text: row.fileName
             style: Theme.bodyMedium
             elide: Text.ElideMiddle
@@ -67,7 +69,7 @@ T.ItemDelegate {
         Badge {
             id: number
             anchors.left: parent.left
-            anchors.leftMargin: 294
+            anchors.leftMargin: row.ruleColumn
             anchors.verticalCenter: parent.verticalCenter
             visible: text !== ""
             text: row.ruleNumber
@@ -88,7 +90,7 @@ T.ItemDelegate {
         Column {
             id: actions
             anchors.left: parent.left
-            anchors.leftMargin: 477
+            anchors.leftMargin: row.actionColumn
             anchors.right: parent.right
             anchors.rightMargin: 14
             anchors.verticalCenter: parent.verticalCenter

@@ -62,15 +62,15 @@ Sheet {
             spacing: 0
 
             Label {
-                Layout.leftMargin: 58
-                Layout.preferredWidth: 236
+                Layout.leftMargin: list.x + list.fileColumn
+                Layout.preferredWidth: list.ruleColumn - list.fileColumn
                 text: qsTr("File")
                 style: Theme.caption
                 color: Theme.text2
             }
 
             Label {
-                Layout.preferredWidth: 182
+                Layout.preferredWidth: list.actionColumn - list.ruleColumn
                 visible: App.preview.fate === 0
                 text: qsTr("Rule")
                 style: Theme.caption
@@ -98,7 +98,7 @@ Sheet {
 
             Card {
                 width: parent.width
-                height: Math.max(Theme.scaled(54), Math.min(place.height + radius, list.contentHeight + 2))
+                height: Math.max(list.rowHeight, Math.min(place.height + radius, list.contentHeight + 2))
                 visible: list.count > 0
                 elevation: 0
             }
