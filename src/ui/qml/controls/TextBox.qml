@@ -12,10 +12,12 @@ FocusScope {
     property bool monospaced: false
     property int minimumLines: 3
     property int maximumLines: 8
-    property bool tabMovesFocus: true
-    property alias readOnly: input.readOnly
+    property int sidePadding: 11
+    property int endPadding: 6
+    property alias radius: surface.radius
+    /// Small things at the end of the last line.
+    property alias trailing: trailing.data
     property alias input: input
-    property alias surface: surface
 
     signal edited(string text)
 
@@ -30,7 +32,7 @@ FocusScope {
         FieldSurface {
             id: surface
             width: parent.width
-            height: Math.min(Math.max(box.minimumLines * lines.height, input.contentHeight), box.maximumLines * lines.height) + 14
+            height: Math.min(Math.max(box.minimumLines * lines.height, input.contentHeight), box.maximumLines * lines.height) + 2 * box.endPadding + 2
             active: input.activeFocus
             wrong: box.errorText !== ""
 
@@ -43,6 +45,7 @@ FocusScope {
                 id: flick
                 anchors.fill: parent
                 anchors.margins: 1
+                anchors.rightMargin: trailing.width > 0 ? trailing.width + 12 : 1
                 clip: contentHeight > height
                 boundsBehavior: Flickable.StopAtBounds
                 contentWidth: width
@@ -55,10 +58,10 @@ FocusScope {
                     implicitHeight: contentHeight + topPadding + bottomPadding
                     focus: true
                     activeFocusOnTab: true
-                    topPadding: 6
-                    bottomPadding: 6
-                    leftPadding: 11
-                    rightPadding: 11
+                    topPadding: box.endPadding
+                    bottomPadding: box.endPadding
+                    leftPadding: box.sidePadding
+                    rightPadding: box.sidePadding
                     selectByMouse: true
                     wrapMode: TextEdit.Wrap
                     textFormat: TextEdit.PlainText
@@ -80,37 +83,40 @@ FocusScope {
                     onCursorRectangleChanged: {
                         if (cursorRectangle.y < flick.contentY)
                             flick.contentY = cursorRectangle.y;
-                        else if (cursorRectangle.y + cursorRectangle.height > flick.contentY + flick.height)
-                            flick.contentY = cursorRectangle.y + cursorRectangle.height - flick.height;
+                        else if (cursorRectangle.y + cursorRectangle.height + bottomPadding > flick.contentY + flick.height)
+                            flick.contentY = cursorRectangle.y + cursorRectangle.height + bottomPadding - flick.height;
                     }
-                    Keys.onTabPressed: event => {
-                        event.accepted = box.tabMovesFocus;
-                        if (box.tabMovesFocus)
-                            nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason);
-                    }
-                    Keys.onBacktabPressed: event => {
-                        event.accepted = box.tabMovesFocus;
-                        if (box.tabMovesFocus)
-                            nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason);
-                    }
+                    // Its own keys come before what they would write.
+                    Keys.forwardTo: [box]
+                    Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                    Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
                     Accessible.role: Accessible.EditableText
                     Accessible.name: box.label
-                    Accessible.description: box.errorText !== "" ? box.errorText : box.placeholder
+                    Accessible.description: box.errorText !== "" ? box.errorText : box.placeholder === box.label ? "" : box.placeholder
 
                     Text {
                         x: input.leftPadding
                         y: input.topPadding
-                        width: input.width - 22
+                        width: input.width - 2 * box.sidePadding
                         visible: input.length === 0 && input.preeditText === ""
                         text: box.placeholder
                         textFormat: Text.PlainText
                         color: Theme.text3
                         font: input.font
                         wrapMode: Text.Wrap
+                        horizontalAlignment: Text.AlignLeft
                         Accessible.ignored: true
                     }
                 }
+            }
+
+            Row {
+                id: trailing
+                anchors.right: parent.right
+                anchors.rightMargin: 7
+                anchors.bottom: parent.bottom
+                anchors.bottomMargin: 6
             }
         }
 
