@@ -56,14 +56,13 @@ public:
     /// Watches those that are folders, before that row; at the end with -1.
     Q_INVOKABLE void addDropped(const QList<QUrl>& dropped, int row = -1);
 
-    /// To the place that `row` is then.
-    Q_INVOKABLE void moveTo(const QString& key, int row);
+    /// Before the one that is in that row now; behind the last with the number of rows.
+    Q_INVOKABLE void moveBefore(const QString& key, int row);
     Q_INVOKABLE void moveBy(const QString& key, int offset);
     /// Asks first.
     Q_INVOKABLE void remove(const QString& key);
     /// Lets the user say where a folder is now. It keeps its rules.
     Q_INVOKABLE void locate(const QString& key);
-    Q_INVOKABLE void tryAgain() { around_.store.refreshAccess(); }
 
     Q_INVOKABLE void copyRule(const QString& ruleID, const QString& key);
 

@@ -40,7 +40,6 @@ Rectangle {
         spacing: 4
 
         Symbol {
-            id: symbol
             anchors.verticalCenter: parent.verticalCenter
             glyph: badge.glyph
             iconName: badge.iconName

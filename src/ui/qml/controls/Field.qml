@@ -16,14 +16,7 @@ FocusScope {
     property bool inRow: false
     /// A password or key.
     property bool hidden: false
-    property alias readOnly: input.readOnly
     property alias input: input
-    property alias selectedText: input.selectedText
-    property alias cursorPosition: input.cursorPosition
-    property alias maximumLength: input.maximumLength
-    property alias validator: input.validator
-    property alias inputMethodHints: input.inputMethodHints
-    property alias surface: surface
     /// Small things at the field's end.
     property alias trailing: trailing.data
 
@@ -50,7 +43,6 @@ FocusScope {
         width: parent.width
 
         FieldSurface {
-            id: surface
             width: parent.width
             height: field.inRow ? Theme.controlInRow : Theme.control
             active: input.activeFocus

@@ -2,8 +2,6 @@ import QtQuick
 
 /// A folder's tint and symbol.
 Tile {
-    id: tile
-
     property int tint: 0
     property string symbol
 

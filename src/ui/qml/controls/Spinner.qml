@@ -19,7 +19,6 @@ Item {
     }
 
     Glyph {
-        id: quarter
         name: "quarter"
         size: spinner.size
         color: spinner.color

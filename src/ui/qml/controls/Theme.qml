@@ -75,7 +75,6 @@ QtObject {
 
     readonly property var tints: isDark ? ["#4C86D2", "#2A928F", "#67933F", "#B27F1A", "#C96A43", "#C9587B", "#906CC8", "#73808C"]
                                         : ["#2F6DBE", "#127A78", "#4D7A31", "#9A6700", "#B4512B", "#B33E63", "#7651B0", "#56626E"]
-    readonly property int tintCount: tints.length
     readonly property alias onTint: inks.tint
     /// Of a kind of file: text and fill, light and dark.
     readonly property var kinds: ({
@@ -173,7 +172,6 @@ QtObject {
     readonly property int rowMenu: scaled(30)
     readonly property int rowPopover: scaled(40)
 
-    readonly property int rBadge: 9
     readonly property int rSmall: 6
     readonly property int rTile: 7
     readonly property int rControl: 8

@@ -80,8 +80,6 @@ T.Popup {
         }
 
         Grid {
-            id: days
-
             readonly property int radius: Theme.rControl
             readonly property bool visualFocus: activeFocus
 

@@ -12,6 +12,7 @@ EditorRow {
     required property string editor
     required property string value
     required property string placeholder
+    required property string tail
     required property int choice
     required property int unit
     required property string error
@@ -82,7 +83,7 @@ EditorRow {
             text: row.value
             errorText: row.error
             label: qsTr("Days")
-            tail: qsTr("days")
+            tail: row.tail
             onEdited: text => row.model.setValue(row.index, text)
             onFinished: row.model.finishValue(row.index)
         }
@@ -92,7 +93,6 @@ EditorRow {
         id: sizeEditor
 
         NumberField {
-            id: size
             text: row.value
             errorText: row.error
             label: qsTr("Size")

@@ -37,7 +37,6 @@ Item {
     }
 
     Item {
-        id: areas
         anchors.fill: parent
         visible: !onboarding.active
 
@@ -135,7 +134,6 @@ Item {
     }
 
     Item {
-        id: toastRoom
         anchors.left: parent.left
         anchors.leftMargin: onboarding.active ? 0 : sidebar.width
         anchors.right: parent.right
@@ -187,7 +185,6 @@ Item {
     FocusGuard {}
 
     MainKeys {
-        id: keys
         enabled: !content.isBusyElsewhere && !hand.isCarrying && !sidebar.list.isDragging
         sidebar: sidebar
         detail: detail

@@ -4,8 +4,6 @@ import Quillon
 
 /// What there is to see before any folder is watched: a place to drop one.
 Item {
-    id: empty
-
     DragArea {
         width: parent.width
         height: 60

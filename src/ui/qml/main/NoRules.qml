@@ -3,8 +3,6 @@ import Quillon
 
 /// What a folder without rules shows in their place.
 Item {
-    id: empty
-
     readonly property Item newRule: newRuleButton
 
     height: column.implicitHeight + Theme.s12 + (suggestions.visible ? suggestions.height + Theme.s8 : 0)
