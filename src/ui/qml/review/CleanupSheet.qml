@@ -86,6 +86,7 @@ Sheet {
             Layout.fillWidth: true
             text: App.cleanup.noteText
             color: Theme.text2
+            wrapMode: Text.Wrap
         }
     ]
 

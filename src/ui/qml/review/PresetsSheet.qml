@@ -63,6 +63,7 @@ Sheet {
         text: qsTr("New rules go to the bottom of the list, where they run last.")
         style: Theme.caption
         color: Theme.text2
+        wrapMode: Text.Wrap
     }
 
     footer: Button {
