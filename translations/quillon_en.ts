@@ -372,10 +372,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>days</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Size</source>
         <translation type="unfinished"></translation>
     </message>
@@ -517,9 +513,12 @@
         <source>1 day</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 days</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -859,10 +858,6 @@
     <name>HistorySheet</name>
     <message>
         <source>Activity</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The newest 500 entries, across every folder</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1755,6 +1750,10 @@
         <source>Save Key</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Get a key from Anthropic</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>
@@ -2220,6 +2219,19 @@
         <source>or</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>day</source>
+        <comment>after a number of days</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>days</source>
+        <comment>after a number of days</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>quillon::EntryCommands</name>
@@ -2386,12 +2398,23 @@
         <source>Dismiss</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 can&apos;t be watched live, so Quillon checks it every few minutes.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>quillon::HistoryModel</name>
     <message>
         <source>All folders</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The newest %Ln entries, across every folder</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

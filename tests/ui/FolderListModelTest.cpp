@@ -69,12 +69,14 @@ TEST_F(FolderListModelTest, ReordersWithinTheListAndSavesTheOrder) {
     const QString a = add("a");
     add("b");
     const QString c = add("c");
-    model.moveTo(a, 2);
+    model.moveBefore(a, 3);
     EXPECT_EQ(names(), (QStringList{u"b"_s, u"c"_s, u"a"_s}));
     model.moveBy(c, -1);
-    model.moveBy(c, -1); // there is nothing above
-    model.moveTo(c, 3);
+    model.moveBy(c, -1);    // there is nothing above
+    model.moveBefore(c, 1); // which is where it is
     EXPECT_EQ(names(), (QStringList{u"c"_s, u"b"_s, u"a"_s}));
+    model.moveBefore(a, 1);
+    EXPECT_EQ(names(), (QStringList{u"c"_s, u"a"_s, u"b"_s}));
     EXPECT_EQ(bench.saved().folders.front().name(), u"c"_s);
 }
 

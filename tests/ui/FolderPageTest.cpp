@@ -137,7 +137,7 @@ TEST_F(FolderPageTest, KeepsTheRowsOfRulesWhileTheyChange) {
     const QString first = list.rows().front().key;
     EXPECT_EQ(list.rows().front().conditionText, u"If extension is “a”"_s);
     EXPECT_EQ(list.rows().front().actionText, u"Move to out"_s);
-    list.moveTo(first, 2);
+    list.moveBefore(first, 3);
     EXPECT_EQ(rules(), (QStringList{u"Move b"_s, u"Move c"_s, u"Move a"_s}));
     list.setEnabled(first, false);
     EXPECT_TRUE(list.row(first)->description.contains(u"Rule 3 of 3, off"_s));

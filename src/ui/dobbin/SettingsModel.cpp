@@ -180,6 +180,10 @@ void SettingsModel::openWebsite() {
     around_.fileManager.openAddress(websiteURL());
 }
 
+void SettingsModel::openKeyPage() {
+    around_.fileManager.openAddress(u"https://console.anthropic.com/settings/keys"_s);
+}
+
 void SettingsModel::showIntroduction() {
     around_.introduce();
     Q_EMIT closeRequested();

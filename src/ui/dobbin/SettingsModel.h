@@ -79,6 +79,8 @@ public:
     Q_INVOKABLE void revealExported();
     Q_INVOKABLE void writeToSupport();
     Q_INVOKABLE void openWebsite();
+    /// Where a key for Claude is to be had.
+    Q_INVOKABLE void openKeyPage();
     Q_INVOKABLE void showIntroduction();
 
     [[nodiscard]] OnDeviceCard* onDevice() { return &onDevice_; }

@@ -36,6 +36,12 @@ QString placeholder(const Condition& condition) {
     }
 }
 
+QString dayWord(const QString& number) {
+    const int days = number.toInt();
+    return days == 1 ? ConditionListModel::tr("day", "after a number of days")
+                     : ConditionListModel::tr("days", "after a number of days", days);
+}
+
 } // namespace
 
 void ConditionListModel::setConditions(std::vector<Condition> conditions) {
@@ -164,6 +170,8 @@ QVariant ConditionListModel::data(const QModelIndex& index, int role) const {
         return condition.value;
     case placeholderRole:
         return placeholder(condition);
+    case tailRole:
+        return dayWord(condition.value);
     case choiceRole: {
         const auto kind = fromRawValue<FileKind>(condition.value);
         return kind ? static_cast<int>(*kind) : -1;
@@ -188,6 +196,7 @@ QHash<int, QByteArray> ConditionListModel::roleNames() const {
             {editorRole, "editor"},
             {valueRole, "value"},
             {placeholderRole, "placeholder"},
+            {tailRole, "tail"},
             {choiceRole, "choice"},
             {unitRole, "unit"},
             {errorRole, "error"},

@@ -26,6 +26,7 @@ public:
         editorRole,                   ///< name of the control that the value is set with
         valueRole,
         placeholderRole,
+        tailRole,   ///< the word after a value that is a number
         choiceRole, ///< index into `kinds`; -1 for a value that is none
         unitRole,   ///< index into `units`
         errorRole,  ///< a sentence about the value

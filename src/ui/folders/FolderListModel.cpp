@@ -117,26 +117,23 @@ void FolderListModel::addFolders(const QStringList& paths, int row) {
             if (symbol != u"folder")
                 store.setSymbol(symbol, *added);
             if (row >= 0)
-                moveTo(uuidText(*added), std::min(row++, rowCount() - 1));
+                moveBefore(uuidText(*added), row++);
         }
     }
 }
 
-void FolderListModel::moveTo(const QString& key, int row) {
+void FolderListModel::moveBefore(const QString& key, int row) {
     std::vector<WatchedFolder> folders = around_.store.folders();
     const auto found =
         std::ranges::find(folders, uuidFromText(key).value_or(QUuid()), &WatchedFolder::id);
-    const int from = int(found - folders.begin());
-    if (found == folders.end() || row < 0 || row >= int(folders.size()) || row == from)
-        return;
-    moveElement(folders, from, row);
-    around_.store.setFolders(std::move(folders));
+    if (found != folders.end() && moveElementBefore(folders, int(found - folders.begin()), row))
+        around_.store.setFolders(std::move(folders));
 }
 
 void FolderListModel::moveBy(const QString& key, int offset) {
     const auto found = std::ranges::find(rows(), key, &FolderRow::key);
     if (found != rows().end())
-        moveTo(key, int(found - rows().begin()) + offset);
+        moveBefore(key, int(found - rows().begin()) + offset + (offset > 0 ? 1 : 0));
 }
 
 void FolderListModel::remove(const QString& key) {

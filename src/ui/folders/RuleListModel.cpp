@@ -66,19 +66,16 @@ void RuleListModel::remove(const QString& key) {
     removeRule(idOf(key), folderID_, store_, toasts_);
 }
 
-void RuleListModel::moveTo(const QString& key, int row) {
+void RuleListModel::moveBefore(const QString& key, int row) {
     const WatchedFolder* const folder = store_.folder(folderID_);
-    if (!folder || row < 0 || row >= int(folder->rules.size()))
+    if (!folder)
         return;
     std::vector<QUuid> order;
     for (const Rule& rule : folder->rules)
         order.push_back(rule.id);
     const auto found = std::ranges::find(order, idOf(key));
-    const int from = int(found - order.begin());
-    if (found == order.end() || from == row)
-        return;
-    moveElement(order, from, row);
-    store_.reorderRules(folderID_, order);
+    if (found != order.end() && moveElementBefore(order, int(found - order.begin()), row))
+        store_.reorderRules(folderID_, order);
 }
 
 void RuleListModel::moveBy(const QString& key, int offset) {

@@ -22,8 +22,8 @@ public:
     Q_INVOKABLE void duplicate(const QString& key);
     /// At once; a toast offers to undo it.
     Q_INVOKABLE void remove(const QString& key);
-    /// To the place that `row` is then.
-    Q_INVOKABLE void moveTo(const QString& key, int row);
+    /// Before the one that is in that row now; behind the last with the number of rows.
+    Q_INVOKABLE void moveBefore(const QString& key, int row);
     Q_INVOKABLE void moveBy(const QString& key, int offset);
 
 private:

@@ -96,6 +96,10 @@ void HistoryModel::setFilter(HistoryFilter filter) {
     Q_EMIT filterChanged();
 }
 
+QString HistoryModel::caption() {
+    return tr("The newest %Ln entries, across every folder", nullptr, int(logCap));
+}
+
 QString HistoryModel::errorCount() const {
     return errorCount_ == 0 ? QString() : QString::number(errorCount_);
 }

@@ -19,6 +19,7 @@ namespace quillon {
 /// open.
 class HistoryModel final : public KeyedRows<HistoryRow> {
     Q_OBJECT
+    Q_PROPERTY(QString caption READ caption CONSTANT)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
     Q_PROPERTY(QStringList folderNames READ folderNames NOTIFY changed)
     Q_PROPERTY(int folderIndex READ folderIndex WRITE setFolderIndex NOTIFY changed)
@@ -45,6 +46,8 @@ public:
     /// The same with what went wrong.
     Q_INVOKABLE void openErrors(const QString& folderID = {});
 
+    /// What the log holds.
+    [[nodiscard]] static QString caption();
     [[nodiscard]] QString searchText() const { return filter_.words; }
     void setSearchText(const QString& words);
     /// "All folders" and then every watched folder.
@@ -56,7 +59,6 @@ public:
     void setOutcome(int outcome);
     Q_INVOKABLE void clearFilter();
 
-    /// "Errors", with how many there are.
     /// How many errors there are; empty for none.
     [[nodiscard]] QString errorCount() const;
     /// The heading and the count of each day, by the rows' `day`.

@@ -21,7 +21,7 @@ T.SpinBox {
     focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : Theme.disabledOpacity
     inputMethodHints: Qt.ImhDigitsOnly
-    textFromValue: value => value === 1 ? qsTr("1 day") : qsTr("%1 days").arg(value)
+    textFromValue: value => value === 1 ? qsTr("1 day") : qsTr("%n days", "", value)
     valueFromText: text => {
         const digits = text.match(/\d+/);
         return digits ? Math.max(from, Math.min(to, Number(digits[0]))) : value;

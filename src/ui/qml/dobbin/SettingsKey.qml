@@ -51,6 +51,14 @@ Column {
         }
 
         Button {
+            visible: row.claude.isEntering
+            anchors.verticalCenter: parent.verticalCenter
+            kind: "link"
+            text: qsTr("Get a key from Anthropic")
+            onClicked: App.settings.openKeyPage()
+        }
+
+        Button {
             visible: row.claude.isKeyringLocked
             anchors.verticalCenter: parent.verticalCenter
             small: true

@@ -7,7 +7,7 @@ Sheet {
     id: sheet
 
     title: qsTr("Activity")
-    caption: qsTr("The newest 500 entries, across every folder")
+    caption: App.history.caption
     sheetWidth: 900
     sheetHeight: 644
     bodyMargin: 0

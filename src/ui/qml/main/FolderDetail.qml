@@ -33,9 +33,7 @@ Item {
 
     function dropRule(x, y) {
         carryRule(x, y);
-        const to = rules.dropRow();
-        if (to >= 0)
-            App.page.rules.moveTo(carried.key, to);
+        rules.dropRule();
     }
 
     function ruleGone() {

@@ -125,11 +125,11 @@ ListView {
         }
         onDragCancelled: list.dragEnded()
         onDragDropped: {
-            const to = list.insertion > index ? list.insertion - 1 : list.insertion;
+            const insertion = list.insertion;
             const isMeant = list.isDragging;
             list.dragEnded();
             if (isMeant)
-                App.folders.moveTo(key, to);
+                App.folders.moveBefore(key, insertion);
         }
     }
 

@@ -75,16 +75,11 @@ ListView {
             scroll.end();
     }
 
-    /// Where the rule that is dragged would then be; -1 when nothing would change.
-    function dropRow() {
+    function dropRule() {
         if (insertion < 0 || !carried.isCarrying)
-            return -1;
-        let from = -1;
-        for (let row = 0; row < count; ++row)
-            if (itemAtIndex(row) && itemAtIndex(row).key === carried.key)
-                from = row;
+            return;
         settling.restart();
-        return insertion > from && from >= 0 ? insertion - 1 : insertion;
+        App.page.rules.moveBefore(carried.key, insertion);
     }
 
     function dragEnded() {
