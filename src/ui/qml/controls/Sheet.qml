@@ -51,19 +51,6 @@ FocusScope {
         return item;
     }
 
-    function reveal(item) {
-        if (!scrolls || !item || sheetOf(item) !== sheet)
-            return;
-        const top = item.mapToItem(bodySlot, 0, 0).y;
-        if (top + item.height < 0 || top > bodySlot.height)
-            return;
-        const room = Math.min(scroller.height, scroller.contentHeight);
-        if (top - Theme.s2 < scroller.contentY)
-            scroller.contentY = Math.max(0, top - Theme.s2);
-        else if (top + item.height + Theme.s4 > scroller.contentY + room)
-            scroller.contentY = Math.min(top - Theme.s2, top + item.height + Theme.s4 - room);
-    }
-
     Component.onCompleted: {
         shownIn = Window.window;
         const last = sheetOf(Window.activeFocusItem);
@@ -76,13 +63,6 @@ FocusScope {
         const now = shownIn ? shownIn.activeFocusItem : null;
         if (!now || !sheetOf(now) || sheetOf(now) === sheet)
             FocusReturn.giveTo(opener);
-    }
-
-    Connections {
-        target: sheet.shownIn
-        function onActiveFocusItemChanged() {
-            sheet.reveal(sheet.shownIn.activeFocusItem);
-        }
     }
 
     Keys.onEscapePressed: closeRequested()
@@ -194,6 +174,10 @@ FocusScope {
             }
         }
 
+        RevealFocus {
+            view: scroller
+        }
+
         ScrollBar {
             flickable: scroller
         }
@@ -212,7 +196,7 @@ FocusScope {
             anchors.right: parent.right
             anchors.bottom: parent.bottom
             visible: buttons.children.length > 0
-            height: visible ? Math.max(Theme.control, buttons.height) + 28 : 0
+            height: visible ? Math.max(Theme.control, footerRow.height) + 28 : 0
 
             Rectangle {
                 anchors.fill: parent
@@ -231,6 +215,7 @@ FocusScope {
             }
 
             RowLayout {
+                id: footerRow
                 anchors.left: parent.left
                 anchors.right: parent.right
                 anchors.leftMargin: Theme.s6

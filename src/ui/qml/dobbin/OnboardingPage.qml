@@ -26,6 +26,11 @@ FocusScope {
         radius: page.radius
     }
 
+    DragArea {
+        width: parent.width
+        height: 60
+    }
+
     Flickable {
         id: flick
         anchors.left: parent.left
@@ -53,6 +58,10 @@ FocusScope {
                     next.forceActiveFocus(Qt.OtherFocusReason);
             }
         }
+    }
+
+    RevealFocus {
+        view: flick
     }
 
     ScrollBar {

@@ -19,22 +19,10 @@ Window {
     color: "transparent"
     flags: Qt.Window | Qt.FramelessWindowHint
     onVisibleChanged: App.settings.isShown = visible
-    onActiveFocusItemChanged: Qt.callLater(reveal)
     onActiveChanged: if (active && !tabs.activeFocus && !page.activeFocus) tabs.forceActiveFocus()
 
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
-
-    /// Scrolls to what has the focus, also when the page grows above it.
-    function reveal() {
-        const item = activeFocusItem;
-        if (!item || !page.item || !page.activeFocus)
-            return;
-        const top = item.mapToItem(page, 0, 0).y + page.y;
-        const most = Math.max(0, flick.contentHeight - flick.height);
-        const least = top + item.height + Theme.s4 - flick.height;
-        flick.contentY = Math.max(0, Math.min(most, Math.max(least, Math.min(flick.contentY, top - Theme.s4))));
-    }
 
     Connections {
         target: App.settings
@@ -163,7 +151,7 @@ Window {
             glyph: "cross"
             iconSize: 12
             label: qsTr("Close")
-            shortcutText: "Esc"
+            shortcutText: qsTr("Esc")
             onClicked: window.close()
         }
 
@@ -179,7 +167,8 @@ Window {
             contentHeight: page.height + 4 + Theme.s2
             clip: contentHeight > height
             boundsBehavior: Flickable.StopAtBounds
-            onContentHeightChanged: Qt.callLater(window.reveal)
+            // The page may grow above what has the focus.
+            onContentHeightChanged: Qt.callLater(revealFocus.show)
 
             Loader {
                 id: page
@@ -191,6 +180,11 @@ Window {
                 sourceComponent: App.settings.page === "dobbin" ? dobbin : general
                 onLoaded: flick.contentY = 0
             }
+        }
+
+        RevealFocus {
+            id: revealFocus
+            view: flick
         }
 
         ScrollBar {

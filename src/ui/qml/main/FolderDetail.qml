@@ -15,7 +15,10 @@ Item {
     property Item carried
     readonly property bool isCompact: width < 600
     readonly property alias header: header
+    readonly property alias banner: banner
+    readonly property alias heading: heading
     readonly property alias rules: rules
+    readonly property alias footer: footer
     readonly property Item activity: footer.activity
 
     function openTiming() {
@@ -65,10 +68,16 @@ Item {
     // The heading and the activity scroll with the list, but are no part of it: the Tab key takes what
     // lies in a list in an order of its own.
     Item {
+        id: body
         anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         width: parent.width
         clip: true
+
+        RevealFocus {
+            view: rules
+            area: body
+        }
 
         // Opaque, and short of the window's round corners and its outline: what lies beneath the list
         // need not be painted for every frame in which it scrolls.
