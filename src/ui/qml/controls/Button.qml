@@ -35,18 +35,17 @@ T.Button {
     rightPadding: leftPadding
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    Keys.priority: Keys.BeforeItem
-    Keys.onPressed: event => {
-        const isEnter = Keystroke.isEnter(event);
-        event.accepted = isEnter || busy && event.key === Qt.Key_Space;
-        if (isEnter && !busy)
-            clicked();
-    }
+    containmentMask: hitArea
+    Keys.onPressed: event => Keystroke.press(event, control)
 
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.description: enabled ? "" : disabledReason
     Accessible.onPressAction: if (!busy) clicked()
+
+    HitArea {
+        id: hitArea
+    }
 
     contentItem: Item {
         implicitWidth: control.symbolRoom + Math.ceil(measure.advanceWidth) + control.chevronRoom
@@ -133,7 +132,7 @@ T.Button {
     }
 
     HoverTip {
-        text: control.toolTip
+        text: control.toolTip !== "" || control.shortcutText === "" ? control.toolTip : control.text
         shortcutText: control.shortcutText
     }
 

@@ -27,11 +27,7 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : Theme.disabledOpacity
     containmentMask: hitArea
-    Keys.onPressed: event => {
-        event.accepted = Keystroke.isEnter(event);
-        if (event.accepted && !busy)
-            clicked();
-    }
+    Keys.onPressed: event => Keystroke.press(event, control)
 
     Accessible.role: Accessible.Button
     Accessible.name: label

@@ -4,9 +4,37 @@ import QtQuick
 
 /// What a key that was pressed asks for.
 QtObject {
+    property int lastKey: 0
+    property real lastTime: 0
+
+    /// Whether a key is held since it was pressed before. Where the desktop tells of a repetition as of
+    /// another release and press, these follow each other sooner than anybody's.
+    function isHeld(event) {
+        const isSoon = follows(event);
+        return event.isAutoRepeat || isSoon;
+    }
+
+    /// To be asked of every release, too.
+    function follows(event) {
+        const now = Date.now();
+        const isSoon = event.key === lastKey && now - lastTime < 50;
+        lastKey = event.key;
+        lastTime = now;
+        return isSoon;
+    }
+
     /// Enter of either block, alone: with Ctrl it is the sheet's.
     function isEnter(event) {
         return (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && (event.modifiers & ~Qt.KeypadModifier) === 0;
+    }
+
+    /// Enter presses a button as Space does, but no more often the longer it is held. One that is busy is
+    /// pressed by neither.
+    function press(event, button) {
+        const isBusy = button.busy === true;
+        event.accepted = isEnter(event) || isBusy && event.key === Qt.Key_Space;
+        if (isEnter(event) && !isBusy && !event.isAutoRepeat)
+            button.clicked();
     }
 
     function isMenu(event) {

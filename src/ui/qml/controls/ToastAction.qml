@@ -11,11 +11,7 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     containmentMask: hitArea
-    Keys.onPressed: event => {
-        event.accepted = Keystroke.isEnter(event);
-        if (event.accepted)
-            clicked();
-    }
+    Keys.onPressed: event => Keystroke.press(event, control)
 
     Accessible.role: Accessible.Button
     Accessible.name: text

@@ -12,13 +12,14 @@ T.Button {
     implicitWidth: Math.min(words.implicitWidth, parent ? parent.width : 240)
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
+    containmentMask: hitArea
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.description: qsTr("Ask Dobbin")
-    Keys.onPressed: event => {
-        event.accepted = Keystroke.isEnter(event);
-        if (event.accepted)
-            clicked();
+    Keys.onPressed: event => Keystroke.press(event, chip)
+
+    HitArea {
+        id: hitArea
     }
 
     contentItem: Label {

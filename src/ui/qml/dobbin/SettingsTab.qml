@@ -19,11 +19,7 @@ T.RadioButton {
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.onPressAction: clicked()
-    Keys.onPressed: event => {
-        event.accepted = Keystroke.isEnter(event);
-        if (event.accepted)
-            clicked();
-    }
+    Keys.onPressed: event => Keystroke.press(event, tab)
 
     contentItem: Item {
         Symbol {

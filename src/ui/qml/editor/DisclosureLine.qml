@@ -19,11 +19,7 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     onClicked: toggled()
-    Keys.onPressed: event => {
-        event.accepted = Keystroke.isEnter(event);
-        if (event.accepted)
-            toggled();
-    }
+    Keys.onPressed: event => Keystroke.press(event, line)
 
     Accessible.role: canOpen ? Accessible.Button : Accessible.StaticText
     Accessible.name: text

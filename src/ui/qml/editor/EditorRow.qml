@@ -49,7 +49,7 @@ FocusScope {
 
     // A held key must not go on with the next row.
     Keys.onDeletePressed: event => {
-        if (!event.isAutoRepeat)
+        if (!Keystroke.isHeld(event))
             row.list.removeRow(row.index);
     }
     Keys.onEscapePressed: event => {

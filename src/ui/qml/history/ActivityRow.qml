@@ -54,7 +54,7 @@ T.ItemDelegate {
         else if (Keystroke.isEnter(event))
             askToReveal();
         else if (event.matches(StandardKey.Undo)) {
-            if (!event.isAutoRepeat)
+            if (!Keystroke.isHeld(event))
                 askToUndo();
         } else
             event.accepted = false;

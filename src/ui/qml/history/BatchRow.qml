@@ -39,7 +39,7 @@ T.ItemDelegate {
         event.accepted = isEnter || event.matches(StandardKey.Undo);
         if (isEnter)
             openAsked(!isOpen);
-        else if (event.accepted && !event.isAutoRepeat && canUndo && !isUndoing)
+        else if (event.accepted && !Keystroke.isHeld(event) && canUndo && !isUndoing)
             undoAsked();
     }
 

@@ -38,7 +38,7 @@ Sheet {
         anchors.fill: parent
         Keys.onPressed: event => {
             event.accepted = event.matches(StandardKey.Undo);
-            if (event.accepted && !event.isAutoRepeat)
+            if (event.accepted && !Keystroke.isHeld(event))
                 sheet.undoNewest();
         }
 

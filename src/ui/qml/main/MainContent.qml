@@ -30,6 +30,11 @@ Item {
 
     onCatchesFocusChanged: Qt.callLater(catchFocus)
 
+    Keys.onReleased: event => {
+        Keystroke.follows(event);
+        event.accepted = false;
+    }
+
     Rectangle {
         anchors.fill: parent
         radius: content.radius

@@ -72,13 +72,13 @@ T.ItemDelegate {
 
     // A held key must not go on with the next rule, nor with a copy.
     Keys.onDeletePressed: event => {
-        if (!event.isAutoRepeat)
+        if (!Keystroke.isHeld(event))
             App.page.rules.remove(key);
     }
     Keys.onUpPressed: event => event.modifiers & Qt.AltModifier ? moveBy(-1) : ListView.view.focusRow(index - 1)
     Keys.onDownPressed: event => event.modifiers & Qt.AltModifier ? moveBy(1) : ListView.view.focusRow(index + 1)
     Keys.onSpacePressed: event => {
-        if (!event.isAutoRepeat)
+        if (!Keystroke.isHeld(event))
             App.page.rules.setEnabled(key, !isEnabled);
     }
     Keys.onPressed: event => {
@@ -92,7 +92,7 @@ T.ItemDelegate {
         else if (Keystroke.isMenu(event))
             openMenu();
         else if (event.key === Qt.Key_D && event.modifiers === Qt.ControlModifier) {
-            if (!event.isAutoRepeat)
+            if (!Keystroke.isHeld(event))
                 App.page.rules.duplicate(key);
         } else if (event.key === Qt.Key_C && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier))
             openCopyMenu();
