@@ -70,6 +70,11 @@ def by_sentence(programs, is_mouse):
     with Model() as model, Visit(programs, is_mouse, folders=["Downloads"], model=model) as visit:
         me = visit.me
         me.choose_folder("Downloads")
+        if not is_mouse:
+            me.press("ctrl+j")
+            me.focus_on("push button", "New Rule", key="F6", most=4)
+            me.focus_on("text", "Ask about your files", key="F6", most=4)
+            me.press("ctrl+j")
         me.start_rule()
         me.fill("Describe with Dobbin", "Put invoices into Invoices")
         me.push("Draft Rule")
@@ -93,6 +98,9 @@ def reorder(programs, is_mouse):
             me.focus_on("list item", "Second", key="Down")
             me.press("alt+Up")
         visit.must_hold(lambda: visit.rules_of("Downloads") == ["Second", "First"], "the new order")
+        if not is_mouse:
+            me.hold("Delete")
+            visit.must_hold(lambda: visit.rules_of("Downloads") == ["First"], "one rule less")
 
 
 def copy_rule(programs, is_mouse):

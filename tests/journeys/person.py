@@ -106,6 +106,10 @@ class Person:
         for key in keys:
             self._do("key", "--clearmodifiers", key)
 
+    def hold(self, key):
+        """Until it repeats."""
+        self._do("keydown", key, "sleep", 1.2, "keyup", key)
+
     def type(self, text):
         self._do("type", "--delay", 4, text)
 

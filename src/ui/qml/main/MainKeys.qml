@@ -12,37 +12,47 @@ Item {
     readonly property Item focused: Window.activeFocusItem
     readonly property bool editsText: focused && focused.cursorPosition !== undefined
 
-    function areaHolds(area) {
+    /// The areas in reading order: what lies in each, and what of it takes the focus.
+    function areas() {
+        const all = [
+            {
+                holders: [sidebar],
+                taker: sidebar.list
+            }
+        ];
+        if (App.page.hasFolder)
+            all.push({
+                holders: [detail.header, detail.banner],
+                taker: detail.header
+            }, {
+                holders: [detail.heading, detail.rules],
+                taker: detail.rules
+            }, {
+                holders: [detail.footer],
+                taker: detail.activity
+            });
+        if (chat)
+            all.push({
+                holders: [chat],
+                taker: chat
+            });
+        return all;
+    }
+
+    function hasFocus(area) {
         for (let item = focused; item; item = item.parent)
-            if (item === area)
+            if (area.holders.includes(item))
                 return true;
         return false;
     }
 
-    /// The areas in reading order, each with what takes the focus there.
-    function areas() {
-        const all = [sidebar.list];
-        if (App.page.hasFolder)
-            all.push(detail.header, detail.rules, detail.activity);
-        if (chat)
-            all.push(chat);
-        return all;
-    }
-
     function goToArea(step) {
         const all = areas();
-        let at = all.findIndex(area => areaHolds(area));
-        // Within the list of rules lie its heading and the activity.
-        if (App.page.hasFolder && areaHolds(detail.activity))
-            at = all.indexOf(detail.activity);
+        let at = all.findIndex(hasFocus);
         for (let i = 0; i < all.length; ++i) {
             at = (at + step + all.length) % all.length;
-            const area = all[at];
-            if (area.takeFocus === undefined)
-                area.forceActiveFocus(Qt.TabFocusReason);
-            else if (!area.takeFocus())
-                continue;
-            return;
+            if (all[at].taker.takeFocus())
+                return;
         }
     }
 
@@ -86,12 +96,14 @@ Item {
 
     Shortcut {
         sequence: "Ctrl+R"
+        autoRepeat: false
         enabled: keys.hasFolder
         onActivated: App.page.run()
     }
 
     Shortcut {
         sequence: "Ctrl+Shift+R"
+        autoRepeat: false
         enabled: keys.hasFolder
         onActivated: App.page.runAll()
     }
@@ -116,12 +128,14 @@ Item {
 
     Shortcut {
         sequence: "Ctrl+J"
+        autoRepeat: false
         enabled: keys.enabled
         onActivated: App.chat.toggle()
     }
 
     Shortcut {
         sequence: "Ctrl+."
+        autoRepeat: false
         enabled: keys.enabled
         onActivated: App.folders.togglePaused()
     }
@@ -139,12 +153,14 @@ Item {
 
     Shortcut {
         sequences: [StandardKey.Undo]
+        autoRepeat: false
         enabled: keys.hasFolder && !keys.editsText
         onActivated: App.entries.undo(App.page.newestUndoable())
     }
 
     Shortcut {
         sequence: "Ctrl+W"
+        autoRepeat: false
         onActivated: keys.Window.window.close()
     }
 
