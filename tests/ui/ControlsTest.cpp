@@ -83,9 +83,10 @@ TEST_F(ControlsTest, AreWorkedByTheKeyboard) {
          "Button { focus: true; text: 'Go'; onClicked: hear('go') }",
          {Qt::Key_Return, Qt::Key_Space},
          {u"go"_s, u"go"_s}},
-        {"nothing on a busy button",
-         "Button { focus: true; busy: true; text: 'Go'; onClicked: hear('go') }",
-         {Qt::Key_Return, Qt::Key_Space},
+        {"nothing on busy buttons",
+         "Button { focus: true; busy: true; text: 'Go'; onClicked: hear('go') }"
+         "IconButton { busy: true; label: 'Run'; onClicked: hear('run') }",
+         {Qt::Key_Return, Qt::Key_Space, Qt::Key_Tab, Qt::Key_Return, Qt::Key_Space},
          {}},
         {"a switch",
          "Switch { focus: true; onToggled: hear(checked) }",
@@ -120,6 +121,11 @@ TEST_F(ControlsTest, AreWorkedByTheKeyboard) {
          {Qt::Key_Return, Qt::Key_Down, Qt::Key_Return, Qt::Key_Space, Qt::Key_Down,
           Qt::Key_Escape},
          {u"1"_s}},
+        {"nothing beneath a picker's menu",
+         "FocusScope { focus: true; Keys.onDeletePressed: hear('delete')\n"
+         "PillPicker { focus: true; model: ['Name', 'Kind', 'Size'] } }",
+         {Qt::Key_Return, Qt::Key_Delete, Qt::Key_Escape, Qt::Key_Delete},
+         {u"delete"_s}},
         {"a menu by arrows and letters, and by nothing that is disabled",
          "Item { anchors.fill: parent; Menu { id: menu; Component.onCompleted: Qt.callLater(open)\n"
          "MenuItem { text: 'Edit…'; onTriggered: { hear('edit'); Qt.callLater(menu.open) } }"
@@ -168,6 +174,31 @@ TEST_F(ControlsTest, KeepTheFocusInASheetAndGiveItBack) {
     press(Qt::Key_Escape);
     EXPECT_EQ(heard(), (QStringList{u"save"_s, u"close"_s}));
     EXPECT_EQ(focused(), u"opener"_s);
+}
+
+TEST_F(ControlsTest, AreHitALittleBesideTheirEdgesWhereTheyAreSmall) {
+    show(R"(
+        Button { x: 20; y: 20; small: true; text: "Small"; onClicked: window.hear("small") }
+        Button { x: 220; y: 20; kind: "link"; text: "Link"; onClicked: window.hear("link") }
+        TagDots { x: 20; y: 120; onChosen: word => window.hear(word) }
+        DayStepper { id: days; x: 20; y: 220; value: 5; onModified: value => window.hear(String(value)) }
+    )");
+    const auto click = [this](QPointF at) {
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const bool isPress = type == QEvent::MouseButtonPress;
+            QMouseEvent event(type, at, at, Qt::LeftButton,
+                              isPress ? Qt::LeftButton : Qt::NoButton, {});
+            QCoreApplication::sendEvent(window_.get(), &event);
+        }
+        settle();
+    };
+    click({40, 18});
+    click({240, 48});
+    click({50, 146}); // below the second dot, and before it
+    click({14, 246});
+    const QQuickItem* days = window_->contentItem()->childItems().last();
+    click({days->x() + days->width() + 6, 218});
+    EXPECT_EQ(heard().join(u' '), u"small link orange 4 5"_s);
 }
 
 } // namespace

@@ -40,6 +40,8 @@ T.ComboBox {
     // The release of the key would choose from a menu that its press opened.
     property bool opensOnRelease: false
 
+    // What the picker lies in must not be removed beneath its menu.
+    Keys.onDeletePressed: event => event.accepted = popup.visible
     Keys.onPressed: event => {
         opensOnRelease = Keystroke.isEnter(event) && !popup.visible;
         event.accepted = opensOnRelease || openWith(event);
@@ -122,7 +124,8 @@ T.ComboBox {
 
     popup: T.Popup {
         y: control.height + 4
-        width: Math.max(control.width, control.widest + 60 + (control.iconRole !== "" && control.iconRoom === 0 ? 26 : 0))
+        x: control.mirrored ? control.width - width : 0
+        width: Math.min(Math.max(control.width, control.widest + 60 + (control.iconRole !== "" && control.iconRoom === 0 ? 26 : 0)), control.Window.width - 24)
         height: Math.min(contentItem.implicitHeight + topPadding + bottomPadding, control.Window.height - 24)
         margins: 12
         padding: 5

@@ -15,12 +15,10 @@ Rectangle {
     function show() {
         state = "";
         state = "shown";
-        clock.restart();
         announcement.say(sentence);
     }
 
     function hide() {
-        clock.stop();
         state = "";
     }
 

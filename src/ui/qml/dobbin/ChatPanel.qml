@@ -41,9 +41,9 @@ Item {
         target: App.chat
         function onIsOpenChanged() {
             if (App.chat.isOpen)
-                panel.cameFrom = panel.Window.activeFocusItem;
-            else if (content.activeFocus && panel.cameFrom)
-                panel.cameFrom.forceActiveFocus(Qt.OtherFocusReason);
+                panel.cameFrom = FocusReturn.openerOf(panel.Window.activeFocusItem);
+            else if (content.activeFocus)
+                FocusReturn.giveTo(panel.cameFrom);
         }
         function onFocusRequested() {
             panel.focusField();
