@@ -19,6 +19,7 @@ T.SpinBox {
     rightPadding: 24
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
+    containmentMask: hitArea
     opacity: enabled ? 1 : Theme.disabledOpacity
     inputMethodHints: Qt.ImhDigitsOnly
     textFromValue: value => value === 1 ? qsTr("1 day") : qsTr("%n days", "", value)
@@ -55,6 +56,11 @@ T.SpinBox {
     Accessible.onIncreaseAction: stepBy(1)
     Accessible.onDecreaseAction: stepBy(-1)
 
+    HitArea {
+        id: hitArea
+        width: control.width + 2 * (Theme.smallestHit - control.leftPadding)
+    }
+
     contentItem: TextInput {
         id: input
         text: control.displayText
@@ -77,6 +83,7 @@ T.SpinBox {
 
     up.indicator: StepperPart {
         x: control.mirrored ? 0 : control.width - width
+        hitOffset: (Theme.smallestHit - width) / 2
         height: control.height
         iconName: "list-add"
         hovered: control.up.hovered
@@ -86,6 +93,7 @@ T.SpinBox {
 
     down.indicator: StepperPart {
         x: control.mirrored ? control.width - width : 0
+        hitOffset: (width - Theme.smallestHit) / 2
         height: control.height
         iconName: "list-remove"
         hovered: control.down.hovered

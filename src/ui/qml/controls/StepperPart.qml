@@ -7,9 +7,17 @@ Item {
     property string iconName
     property bool hovered
     property bool pressed
+    /// How far the middle of what can be hit lies beside its own, away from the number.
+    property real hitOffset: 0
 
     implicitWidth: 24
     opacity: enabled ? 1 : Theme.disabledOpacity
+    containmentMask: hitArea
+
+    HitArea {
+        id: hitArea
+        anchors.horizontalCenterOffset: part.hitOffset
+    }
 
     Rectangle {
         anchors.fill: parent

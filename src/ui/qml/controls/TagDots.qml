@@ -15,7 +15,7 @@ Row {
 
     signal chosen(string word)
 
-    spacing: 6
+    spacing: Theme.s2
     opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.Grouping
     Accessible.name: label
@@ -45,6 +45,7 @@ Row {
             width: 24
             height: 24
             hoverEnabled: true
+            containmentMask: hitArea
             text: control.names[index]
             focusPolicy: isChosen || control.currentIndex < 0 && index === 0 ? Qt.StrongFocus : Qt.ClickFocus
             onClicked: control.choose(index, false)
@@ -61,6 +62,10 @@ Row {
             Accessible.checked: isChosen
             Accessible.onPressAction: control.choose(index, false)
             Accessible.onToggleAction: control.choose(index, false)
+
+            HitArea {
+                id: hitArea
+            }
 
             contentItem: Item {
                 Rectangle {
