@@ -25,8 +25,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QStringView arrow = u" → ";
-/// So that what is edited keeps its room above them.
-constexpr qsizetype warningsShown = 4;
 
 RulePlace placeOf(const QUuid& folderID, const AppStore& store) {
     RulePlace place;
@@ -248,10 +246,6 @@ QString RuleEditor::sentence() const {
 QStringList RuleEditor::warnings() const {
     QStringList told = validationWarnings(draft_) + valueWarnings(draft_);
     told.removeDuplicates();
-    if (const qsizetype more = told.size() - warningsShown; more > 0) {
-        told.resize(warningsShown);
-        told.append(tr("and %L1 more").arg(more));
-    }
     return told;
 }
 

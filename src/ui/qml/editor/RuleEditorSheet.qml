@@ -50,7 +50,7 @@ Sheet {
     }
 
     Shortcut {
-        sequence: "Ctrl+Shift+Return"
+        sequences: ["Ctrl+Shift+Return", "Ctrl+Shift+Enter"]
         enabled: !question.visible
         onActivated: actions.focusedRow() >= 0 ? addAction.open() : sheet.newCondition()
     }
@@ -188,8 +188,7 @@ Sheet {
                 kind: "link"
                 iconName: "list-add"
                 text: qsTr("Add Condition")
-                shortcutText: "Ctrl+Shift+Enter"
-                toolTip: text
+                shortcutText: qsTr("Ctrl+Shift+Enter")
                 onClicked: sheet.newCondition()
             }
         }
@@ -276,6 +275,7 @@ Sheet {
     pinned: ProbeBar {
         width: parent.width
         editor: sheet.editor
+        highest: Math.min(Theme.scaled(168), Math.round(sheet.height / 3))
     }
 
     destructive: Button {
@@ -295,8 +295,7 @@ Sheet {
             id: saveButton
             kind: "primary"
             text: qsTr("Save Rule")
-            shortcutText: "Ctrl+Enter"
-            toolTip: text
+            shortcutText: qsTr("Ctrl+Enter")
             onClicked: sheet.editor.save()
         }
     ]
