@@ -8,7 +8,12 @@ namespace quillon {
 inline constexpr QStringView linuxName = u"Linux";
 inline constexpr QStringView macName = u"macOS";
 
-/// The one that this is built for, for every sentence that names it.
+/// What they call the place where it keeps their secrets.
+inline constexpr QStringView linuxKeychainName = u"keyring";
+inline constexpr QStringView macKeychainName = u"Keychain";
+
+/// Those that this is built for, for every sentence that names them.
 inline constexpr QStringView systemName = linuxName;
+inline constexpr QStringView keychainName = linuxKeychainName;
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #include "assistant/backends/AIManager.h"
 
 #include "assistant/backends/MonthStamp.h"
+#include "platform/SystemNames.h"
 #include "store/SettingsTable.h"
 
 namespace quillon {
@@ -196,7 +197,8 @@ QCoro::Task<Expected<void>> AIManager::saveKey(QString typed) {
         [this, &key](auto done) { keychain_.save(key, account, std::move(done)); });
     const Expected<void> saved = co_await saving;
     if (!saved)
-        co_return failure(saved.error().kind, u"Quillon couldn't save the key to your keyring."_s);
+        co_return failure(saved.error().kind,
+                          u"Quillon couldn't save the key to your %1."_s.arg(keychainName));
     if (life.expired())
         co_return gone();
     setKey(key);
