@@ -27,16 +27,16 @@ RunTexts runTexts(const RunReport& report) {
     const auto& entries = report.run.entries;
     const auto failed = std::size_t(std::ranges::count(entries, true, &LogEntry::isError));
     const std::size_t filed = entries.size() - failed;
-    if (filed > 0) {
-        const QString sentence =
-            failed == 0 ? Texts::tr("Filed %1 in %2.", "a number of files")
-                              .arg(fileCount(filed), name)
-                        : Texts::tr("Filed %1 in %2, %3 couldn’t be.",
-                                    "a number of files, a folder and a number")
-                              .arg(fileCount(filed), name, QString::number(failed));
-        return {.sentence = sentence,
-                .brief = Texts::tr("Filed %1", "a number of files").arg(fileCount(filed))};
-    }
+    const QString brief = Texts::tr("Filed %1", "a number of files").arg(fileCount(filed));
+    if (filed > 0 && failed > 0)
+        return {.sentence = Texts::tr("Filed %1 in %2, %3 couldn’t be.",
+                                      "a number of files, a folder and a number")
+                                .arg(fileCount(filed), name, QString::number(failed)),
+                .brief = brief};
+    if (filed > 0)
+        return {.sentence =
+                    Texts::tr("Filed %1 in %2.", "a number of files").arg(fileCount(filed), name),
+                .brief = brief};
     if (failed > 0)
         return {.sentence = Texts::tr("%1 in %2 couldn’t be filed.", "a number of files")
                                 .arg(fileCount(failed), name),
