@@ -186,8 +186,8 @@ TEST_F(ControlsTest, AreHitALittleBesideTheirEdgesWhereTheyAreSmall) {
     const auto click = [this](QPointF at) {
         for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
             const bool isPress = type == QEvent::MouseButtonPress;
-            QMouseEvent event(type, at, at, Qt::LeftButton,
-                              isPress ? Qt::LeftButton : Qt::NoButton, {});
+            QMouseEvent event(type, at, at, Qt::LeftButton, isPress ? Qt::LeftButton : Qt::NoButton,
+                              {});
             QCoreApplication::sendEvent(window_.get(), &event);
         }
         settle();
