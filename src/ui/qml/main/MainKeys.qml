@@ -155,7 +155,13 @@ Item {
         sequences: [StandardKey.Undo]
         autoRepeat: false
         enabled: keys.hasFolder && !keys.editsText
-        onActivated: App.entries.undo(App.page.newestUndoable())
+        // A repetition that passes for a press, too, would put back one file after the other.
+        onActivated: {
+            if (!Keystroke.follows({
+                key: Qt.Key_Z
+            }))
+                App.entries.undo(App.page.newestUndoable());
+        }
     }
 
     Shortcut {
