@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void printJson(const std::vector<Rule>& rules, std::ostream& out) {
+void printChecks(const std::vector<Rule>& rules, std::ostream& out) {
     JsonStream json;
     json.beginList();
     for (const Rule& rule : rules) {
@@ -60,7 +60,7 @@ ExitCode checkCommand(const CheckOptions& options, const Console& console, Servi
     if (rules->empty())
         console.say(u"There are no rules, so there is nothing to do"_s);
     if (options.json)
-        printJson(*rules, console.out);
+        printChecks(*rules, console.out);
     else
         printText(*rules, console);
     return ExitCode::done;

@@ -26,7 +26,7 @@ std::string line(const std::string& condition, const std::string& rest) {
     return "complete -c quillon -n " + inQuotes(condition) + ' ' + rest + '\n';
 }
 
-std::string offerOf(const ValueOutline& value) {
+std::string fishOffer(const ValueOutline& value) {
     if (value.isFolder)
         return " -x -a '(__fish_complete_directories)'";
     if (value.isFile)
@@ -62,12 +62,12 @@ std::string fishCompletion() {
         const std::string condition = seen(std::string(outline.verb->name));
         for (const OptionOutline& option : outline.options)
             text += line(condition, "-l " + option.name.substr(2) +
-                                        (option.value.name.empty() ? "" : offerOf(option.value)) +
+                                        (option.value.name.empty() ? "" : fishOffer(option.value)) +
                                         " -d " + inQuotes(option.description));
         if (!outline.arguments.empty() &&
             (outline.arguments[0].isFolder || outline.arguments[0].isFile ||
              !outline.arguments[0].words.empty()))
-            text += line(condition, offerOf(outline.arguments[0]).substr(1));
+            text += line(condition, fishOffer(outline.arguments[0]).substr(1));
     }
     return text;
 }

@@ -1,17 +1,12 @@
 #include "cli/LogLines.h"
 
 #include "cli/LocalTime.h"
+#include "cli/ShortID.h"
 #include "model/Uuid.h"
 
 namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-constexpr qsizetype idLength = 8;
-
-} // namespace
 
 void addLogLines(const std::vector<LogEntry>& logs, LineBuffer& lines, bool withPlaces) {
     ColumnWidth names;
@@ -31,12 +26,12 @@ void addLogLines(const std::vector<LogEntry>& logs, LineBuffer& lines, bool with
         const std::optional<QString>& place =
             entry.trashedPath ? entry.trashedPath : entry.currentPath;
         if (withPlaces && place)
-            lines.add(QString(idLength + 2, u' ')).add(*place).endLine();
+            lines.add(QString(shownIDLength + 2, u' ')).add(*place).endLine();
     }
 }
 
 QString shortID(const LogEntry& entry) {
-    return uuidText(entry.id).left(idLength);
+    return uuidText(entry.id).left(shownIDLength);
 }
 
 } // namespace quillon

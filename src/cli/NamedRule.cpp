@@ -1,5 +1,6 @@
 #include "cli/NamedRule.h"
 
+#include "cli/ShortID.h"
 #include "model/NearestWord.h"
 #include "model/Uuid.h"
 #include "store/Sentences.h"
@@ -11,8 +12,6 @@ namespace quillon {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr qsizetype shortestPrefix = 4;
 
 std::vector<Rule> those(const std::vector<Rule>& rules,
                         const std::function<bool(const Rule&)>& isMeant) {
@@ -37,7 +36,7 @@ Chosen<Rule> ruleMeant(const std::string& given, const std::vector<Rule>& rules)
     const std::size_t number = text.toULong(&isNumber);
     if (found.empty() && isNumber && number >= 1 && number <= rules.size())
         return rules[number - 1];
-    if (found.empty() && text.size() >= shortestPrefix)
+    if (found.empty() && text.size() >= shortestIDPrefix)
         found = those(rules, [&](const Rule& rule) {
             return uuidText(rule.id).startsWith(text, Qt::CaseInsensitive);
         });

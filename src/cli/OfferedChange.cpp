@@ -8,6 +8,7 @@
 #include "cli/RuleListOutput.h"
 #include "cli/RunOutput.h"
 #include "cli/ShellWord.h"
+#include "cli/ShortID.h"
 #include "model/Uuid.h"
 #include "store/Sentences.h"
 
@@ -19,10 +20,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-using Kind = DobbinAction::Kind;
-
-constexpr qsizetype idLength = 8;
-
 struct Offer {
     QUuid turnID;
     std::size_t index = 0;
@@ -31,7 +28,7 @@ struct Offer {
 
 /// The one whose id begins so.
 Chosen<ChatTurn> answerNamed(const QString& text, const std::vector<ChatTurn>& turns) {
-    if (text.size() < idLength)
+    if (text.size() < shownIDLength)
         return refusal(
             ExitCode::usage,
             u"“%1” is not the id of an answer; give all of it as it was shown"_s.arg(text));
@@ -150,7 +147,7 @@ ExitCode showState(const DobbinAction& action, const QString& happened, bool jso
 } // namespace
 
 QString shortID(const ChatTurn& answer) {
-    return uuidText(answer.id).left(idLength);
+    return uuidText(answer.id).left(shownIDLength);
 }
 
 ExitCode carryOutOffer(const AskOptions& options, const StoreAccess& store, const Console& console,
@@ -163,7 +160,7 @@ ExitCode carryOutOffer(const AskOptions& options, const StoreAccess& store, cons
     const DobbinAction& action = offer->action;
     if (!json && !action.done)
         announce(action, console);
-    if (action.kind == Kind::writeRule)
+    if (action.kind == DobbinAction::Kind::writeRule)
         return write(action, json, store, console, services);
 
     Expected<QString> happened;
@@ -176,7 +173,7 @@ ExitCode carryOutOffer(const AskOptions& options, const StoreAccess& store, cons
             console.say(happened.error());
         return ExitCode::someFailed;
     }
-    if (action.kind == Kind::runFolder)
+    if (action.kind == DobbinAction::Kind::runFolder)
         return json ? tellRunsAsJson(reports, console) : tellRuns(reports, console);
     return showState(action, *happened, json, store, console);
 }

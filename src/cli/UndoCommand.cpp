@@ -3,6 +3,7 @@
 #include "cli/OpenStore.h"
 #include "cli/ProgressBar.h"
 #include "cli/Refusal.h"
+#include "cli/ShortID.h"
 #include "cli/TimeSpan.h"
 #include "cli/Totals.h"
 #include "cli/Verbs.h"
@@ -20,15 +21,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype shortestPrefix = 4;
-
 /// The one id that is meant by a text.
 Chosen<QUuid> meantID(const std::string& given, const QSet<QUuid>& ids, const QString& noun) {
     const QString text = QString::fromStdString(given);
     const auto isIDCharacter = [](QChar c) { return u"0123456789abcdefABCDEF-"_s.contains(c); };
-    if (text.size() < shortestPrefix || !std::ranges::all_of(text, isIDCharacter))
+    if (text.size() < shortestIDPrefix || !std::ranges::all_of(text, isIDCharacter))
         return refusal(ExitCode::usage, u"“%1” is not an id, nor the first %2 characters of one or "
-                                        "more"_s.arg(text, QString::number(shortestPrefix)));
+                                        "more"_s.arg(text, QString::number(shortestIDPrefix)));
     std::vector<QUuid> found;
     for (const QUuid& id : ids)
         if (uuidText(id).startsWith(text, Qt::CaseInsensitive))

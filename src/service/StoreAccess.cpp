@@ -12,7 +12,7 @@ namespace quillon {
 namespace {
 
 /// How long runs that are to end early may take to tell what they have done.
-constexpr std::chrono::seconds endGrace{2};
+constexpr std::chrono::seconds otherEndGrace{2};
 
 /// What a waiting command and the store's thread share. It outlives a command that stops waiting.
 struct Waiting {
@@ -75,7 +75,7 @@ std::vector<RunReport> StoreAccess::runsOf(const std::function<void(AppStore&)>&
     });
     if (!waiting->signal.wait(mayContinue)) {
         onStoreThread([&] { store_->endRunsEarly(before + 1, last); });
-        const auto end = std::chrono::steady_clock::now() + endGrace;
+        const auto end = std::chrono::steady_clock::now() + otherEndGrace;
         waiting->signal.wait([end] { return std::chrono::steady_clock::now() < end; });
     }
     std::vector<RunReport> reports;

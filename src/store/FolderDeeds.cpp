@@ -10,16 +10,16 @@ namespace {
 // Longer than any settle time; what has gone by then is seen, or is not there.
 constexpr auto stillYoung = std::chrono::minutes(10);
 
-constexpr int hexDigits = 16;
+constexpr int hashDigits = 16;
 
 QString hexText(std::uint64_t hash) {
-    return QString::number(hash, 16).rightJustified(hexDigits, u'0');
+    return QString::number(hash, 16).rightJustified(hashDigits, u'0');
 }
 
 std::optional<std::uint64_t> hashOf(QStringView hex) {
     bool isNumber = false;
     const std::uint64_t hash = hex.toULongLong(&isNumber, 16);
-    return isNumber && hex.size() == hexDigits ? std::optional(hash) : std::nullopt;
+    return isNumber && hex.size() == hashDigits ? std::optional(hash) : std::nullopt;
 }
 
 } // namespace
@@ -61,7 +61,7 @@ QJsonObject FolderDeeds::toJson() const {
     for (auto& [rule, files] : filesByRule) {
         std::ranges::sort(files);
         QString text;
-        text.reserve(qsizetype(files.size()) * hexDigits);
+        text.reserve(qsizetype(files.size()) * hashDigits);
         for (const std::uint64_t file : files)
             text += hexText(file);
         json.insert(hexText(rule), text);
@@ -76,9 +76,9 @@ std::optional<FolderDeeds> FolderDeeds::fromJson(const QJsonObject& json) {
         const QString files = entry->toString();
         if (!rule || !entry->isString())
             return std::nullopt;
-        for (qsizetype start = 0; start < files.size(); start += hexDigits) {
+        for (qsizetype start = 0; start < files.size(); start += hashDigits) {
             const auto file = hashOf(QStringView(files).sliced(start).first(
-                std::min<qsizetype>(hexDigits, files.size() - start)));
+                std::min<qsizetype>(hashDigits, files.size() - start)));
             if (!file)
                 return std::nullopt;
             deeds.add(*file, *rule, Timestamp());

@@ -65,7 +65,7 @@ TEST(Conditions, EveryAttributeUnderEveryOperator) {
         {A::dobbinSays, u"unasked?"_s, "000000000000"},
     };
     MatchingFixture one;
-    const Timestamp now = one.machine.clock.time; // 2023-11-14
+    const Timestamp now = one.machine.clock.now(); // 2023-11-14
     one.file.status.size = 2 << 20;
     one.file.status.modified = now - std::chrono::days(10);
     one.file.status.accessed = now - std::chrono::days(5);
@@ -149,7 +149,7 @@ TEST(Conditions, SizesCountBytesByTheUnit) {
 }
 
 TEST(Conditions, AgesReachToTheEndsOfTime) {
-    const Timestamp now = FakeClock().time;
+    const Timestamp now = FakePlatform().clock.now();
     const struct {
         Timestamp modified;
         QString days;

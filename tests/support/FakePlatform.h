@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/Archives.h"
-#include "platform/Clock.h"
 #include "platform/CloudFiles.h"
 #include "platform/ContentTypes.h"
 #include "platform/FileNames.h"
@@ -11,6 +10,7 @@
 #include "platform/Processes.h"
 #include "platform/Provenance.h"
 #include "platform/Trash.h"
+#include "support/FakeClock.h"
 
 #include <QHash>
 #include <QString>
@@ -89,13 +89,6 @@ public:
     bool isOnlineOnly(const std::string& path) const override { return onlineOnly.contains(path); }
 };
 
-class FakeClock : public Clock {
-public:
-    Timestamp time{std::chrono::seconds(1'700'000'000)};
-
-    Timestamp now() const override { return time; }
-};
-
 /// Services that a test of pure decisions must never reach: each of them only says so.
 class NoFileSystem : public FileSystem {
 public:
@@ -148,7 +141,7 @@ struct FakePlatform {
     FakeContentTypes contentTypes;
     NoProcesses processes;
     NoArchives archives;
-    FakeClock clock;
+    FakeClock clock{Timestamp{std::chrono::seconds(1'700'000'000)}};
 
     Platform platform{.fileSystem = fileSystem,
                       .trash = trash,

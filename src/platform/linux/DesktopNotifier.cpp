@@ -13,7 +13,7 @@ namespace {
 
 // How long leaving waits for a thread that may itself be waiting for a bus without an answer; then
 // it is left behind.
-constexpr unsigned long patienceMs = 200;
+constexpr unsigned long endPatienceMs = 200;
 
 } // namespace
 
@@ -33,7 +33,7 @@ struct DesktopNotifier::State {
         if (!thread)
             return;
         thread->quit();
-        if (thread->wait(patienceMs)) {
+        if (thread->wait(endPatienceMs)) {
             delete thread;
             return;
         }

@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr auto serviceName = "org.freedesktop.secrets"_L1;
+constexpr auto secretsName = "org.freedesktop.secrets"_L1;
 constexpr auto servicePath = "/org/freedesktop/secrets"_L1;
 constexpr auto serviceInterface = "org.freedesktop.Secret.Service"_L1;
 constexpr auto collectionInterface = "org.freedesktop.Secret.Collection"_L1;
@@ -57,7 +57,7 @@ public:
     [[nodiscard]] Expected<QVariantList> call(const QString& path, const QString& interface,
                                               const QString& method,
                                               const QVariantList& arguments) const {
-        QDBusMessage message = QDBusMessage::createMethodCall(serviceName, path, interface, method);
+        QDBusMessage message = QDBusMessage::createMethodCall(secretsName, path, interface, method);
         message.setArguments(arguments);
         const QDBusMessage reply = bus_.call(message, QDBus::Block, answerPatienceMs);
         if (reply.type() == QDBusMessage::ReplyMessage)

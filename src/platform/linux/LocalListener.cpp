@@ -14,7 +14,7 @@ namespace quillon {
 namespace {
 
 constexpr int longestQueue = 64;
-constexpr std::chrono::milliseconds patience{200};
+constexpr std::chrono::milliseconds answerPatience{200};
 
 /// The file's number; 0 when there is nothing.
 unsigned long long numberOf(const std::string& path) {
@@ -29,7 +29,7 @@ Expected<void> checkFree(const std::string& path) {
     if (!S_ISSOCK(status.st_mode))
         return failure(ErrorKind::alreadyExists,
                        QStringLiteral("there is something else at its path"));
-    const auto other = LocalSocket::connect(path, patience);
+    const auto other = LocalSocket::connect(path, answerPatience);
     if (other || other.error().kind == ErrorKind::timedOut)
         return failure(ErrorKind::alreadyExists,
                        QStringLiteral("another Quillon listens there already"));

@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr auto serviceName = "org.freedesktop.Notifications"_L1;
+constexpr auto notificationsName = "org.freedesktop.Notifications"_L1;
 constexpr auto objectPath = "/org/freedesktop/Notifications"_L1;
 constexpr auto undoAction = "undo"_L1;
 constexpr auto clickAction = "default"_L1;
@@ -25,7 +25,7 @@ constexpr auto clickAction = "default"_L1;
 constexpr qsizetype mostWaiting = 20;
 
 QDBusMessage callOf(const QString& method) {
-    return QDBusMessage::createMethodCall(serviceName, objectPath, serviceName, method);
+    return QDBusMessage::createMethodCall(notificationsName, objectPath, notificationsName, method);
 }
 
 QString escaped(QString text) {
@@ -65,13 +65,13 @@ bool NotificationBus::connectToBus() {
         disconnectFromBus();
         return false;
     }
-    connection_->connect(serviceName, objectPath, serviceName, u"ActionInvoked"_s, this,
+    connection_->connect(notificationsName, objectPath, notificationsName, u"ActionInvoked"_s, this,
                          SLOT(actionInvoked(uint, QString)));
-    connection_->connect(serviceName, objectPath, serviceName, u"NotificationClosed"_s, this,
-                         SLOT(notificationClosed(uint, uint)));
-    connection_->connect(serviceName, objectPath, serviceName, u"ActivationToken"_s, this,
-                         SLOT(activationTokenCame(uint, QString)));
-    watcher_ = std::make_unique<QDBusServiceWatcher>(serviceName, *connection_,
+    connection_->connect(notificationsName, objectPath, notificationsName, u"NotificationClosed"_s,
+                         this, SLOT(notificationClosed(uint, uint)));
+    connection_->connect(notificationsName, objectPath, notificationsName, u"ActivationToken"_s,
+                         this, SLOT(activationTokenCame(uint, QString)));
+    watcher_ = std::make_unique<QDBusServiceWatcher>(notificationsName, *connection_,
                                                      QDBusServiceWatcher::WatchForOwnerChange);
     connect(watcher_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString&, const QString& before) {

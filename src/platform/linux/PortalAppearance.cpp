@@ -1,6 +1,7 @@
 #include "platform/linux/PortalAppearance.h"
 
 #include "platform/FileNames.h"
+#include "platform/linux/PortalAddress.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -17,8 +18,6 @@ namespace {
 
 using Wishes = DesktopAppearance::Wishes;
 
-constexpr auto portalName = "org.freedesktop.portal.Desktop"_L1;
-constexpr auto portalPath = "/org/freedesktop/portal/desktop"_L1;
 constexpr auto settingsInterface = "org.freedesktop.portal.Settings"_L1;
 
 struct Key {

@@ -1,5 +1,7 @@
 #include "platform/linux/PortalRequest.h"
 
+#include "platform/linux/PortalAddress.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -9,13 +11,6 @@
 namespace quillon {
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-constexpr auto portalName = "org.freedesktop.portal.Desktop"_L1;
-constexpr auto portalPath = "/org/freedesktop/portal/desktop"_L1;
-
-} // namespace
 
 void PortalRequest::send(QDBusConnection connection, const Call& call, Answered answered,
                          std::function<void()> failed) {

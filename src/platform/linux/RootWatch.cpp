@@ -14,7 +14,7 @@ namespace quillon {
 namespace {
 
 /// How often a path is followed that changes while it is looked at.
-constexpr int patience = 8;
+constexpr int mostTries = 8;
 
 bool isExhaustion(int error) {
     return error == ENOSPC || error == ENOMEM || error == EMFILE || error == ENFILE;
@@ -82,7 +82,7 @@ void RootWatch::relocate() {
         lookAtRemote(QStringLiteral("holds %1"), *kind);
         return;
     }
-    for (int tries = 0; tries < patience; ++tries) {
+    for (int tries = 0; tries < mostTries; ++tries) {
         if (watchTree() || waitAtAncestor()) {
             return;
         }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr auto watcherName = "org.kde.StatusNotifierWatcher"_L1;
 constexpr auto watcherPath = "/StatusNotifierWatcher"_L1;
-constexpr int patienceMs = 3000;
+constexpr int hostPatienceMs = 3000;
 
 } // namespace
 
@@ -60,7 +60,7 @@ void StatusNotifierTray::registerItem() {
                                                           u"RegisterStatusNotifierItem"_s);
     message << connection_->baseService();
     auto* const call =
-        new QDBusPendingCallWatcher(connection_->asyncCall(message, patienceMs), this);
+        new QDBusPendingCallWatcher(connection_->asyncCall(message, hostPatienceMs), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
         call->deleteLater();
         if (call->isError())
@@ -75,7 +75,7 @@ void StatusNotifierTray::askForHost() {
         watcherName, watcherPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     message << QString(watcherName) << u"IsStatusNotifierHostRegistered"_s;
     auto* const call =
-        new QDBusPendingCallWatcher(connection_->asyncCall(message, patienceMs), this);
+        new QDBusPendingCallWatcher(connection_->asyncCall(message, hostPatienceMs), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
         call->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *call;

@@ -14,7 +14,7 @@ namespace quillon {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 
 /// A thread on which no signal arrives: they are for the main thread.
 template <typename Work>
@@ -137,14 +137,14 @@ void WatchLoop::readEvents() {
 
 void WatchLoop::deliver() {
     for (Watched& each : watched_) {
-        if (each.root.lookDue() && *each.root.lookDue() <= Clock::now()) {
+        if (each.root.lookDue() && *each.root.lookDue() <= SteadyClock::now()) {
             each.root.look();
         }
         if (each.root.takeChange()) {
-            each.changes.note(Clock::now());
+            each.changes.note(SteadyClock::now());
         }
         each.subscription->setWarning(each.root.warning());
-        if (each.changes.take(Clock::now())) {
+        if (each.changes.take(SteadyClock::now())) {
             each.subscription->tellOfChange();
         }
     }
@@ -152,9 +152,9 @@ void WatchLoop::deliver() {
 
 /// In milliseconds, rounded up; -1 when nothing is due.
 int WatchLoop::timeout() const {
-    std::optional<Clock::time_point> next;
+    std::optional<SteadyClock::time_point> next;
     if (!wake_->isOpen()) { // for want of descriptors
-        next = Clock::now() + std::chrono::seconds(1);
+        next = SteadyClock::now() + std::chrono::seconds(1);
     }
     for (const Watched& each : watched_) {
         for (const auto& due : {each.root.lookDue(), each.changes.due()}) {
@@ -166,7 +166,7 @@ int WatchLoop::timeout() const {
     if (!next) {
         return -1;
     }
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*next - Clock::now());
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*next - SteadyClock::now());
     return static_cast<int>(std::max(left, std::chrono::milliseconds(0)).count());
 }
 

@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-bool isExhaustion(int error) {
+bool isLackOfWatches(int error) {
     return error == ENOSPC || error == ENOMEM;
 }
 
@@ -70,7 +70,7 @@ WatchTree::Addition WatchTree::add(Folder& parent, const std::string& name) {
     if (watch < 0) {
         // Gone again, no folder, or not to be read: its parent tells when that changes.
         drop(parent, name);
-        return {.error = isExhaustion(-watch) ? -watch : 0};
+        return {.error = isLackOfWatches(-watch) ? -watch : 0};
     }
     if (const auto known = byWatch_.find(watch); known != byWatch_.end()) {
         Folder& same = *known->second;

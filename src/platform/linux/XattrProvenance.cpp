@@ -16,7 +16,7 @@ struct OriginFormat {
     std::optional<QStringList> (*decode)(const QByteArray&);
 };
 
-constexpr auto formats = std::to_array<OriginFormat>({
+constexpr auto originFormats = std::to_array<OriginFormat>({
     {"user.com.apple.metadata:kMDItemWhereFroms", decodeStringList},
     {"user.xdg.origin.url", decodeText},
     {"user.xdg.referrer.url", decodeText},
@@ -26,7 +26,7 @@ constexpr auto formats = std::to_array<OriginFormat>({
 
 QStringList XattrProvenance::whereFrom(const std::string& path) const {
     QStringList origins;
-    for (const OriginFormat& format : formats) {
+    for (const OriginFormat& format : originFormats) {
         const Expected<std::optional<QByteArray>> stored = readAttribute(path, format.attribute);
         if (stored && *stored) {
             origins += format.decode(**stored).value_or(QStringList());

@@ -41,7 +41,7 @@ struct TagFormat {
 
 enum : std::size_t { finder, desktop, samba };
 
-constexpr auto formats = std::to_array<TagFormat>({
+constexpr auto tagFormats = std::to_array<TagFormat>({
     {"user.com.apple.metadata:_kMDItemUserTags", decodeStringList, encodeStringList},
     {"user.xdg.tags", decodeCommas, encodeCommas},
     {"user.DosStream.com.apple.metadata:_kMDItemUserTags:$DATA", decodeZeroEndedList,
@@ -54,7 +54,7 @@ struct TagList {
     std::optional<QByteArray> stored;
     QStringList entries;
 };
-using TagLists = std::array<TagList, formats.size()>;
+using TagLists = std::array<TagList, tagFormats.size()>;
 
 QString nameOf(const QString& entry) {
     return entry.section(u'\n', 0, 0);
@@ -68,13 +68,13 @@ bool hasName(const QStringList& entries, const QString& name) {
 
 Expected<TagLists> readLists(const std::string& path) {
     TagLists lists;
-    for (std::size_t i = 0; i < formats.size(); ++i) {
-        Expected<std::optional<QByteArray>> stored = readAttribute(path, formats[i].attribute);
+    for (std::size_t i = 0; i < tagFormats.size(); ++i) {
+        Expected<std::optional<QByteArray>> stored = readAttribute(path, tagFormats[i].attribute);
         if (!stored) {
             return std::unexpected(stored.error());
         }
         if (*stored && !(*stored)->isEmpty()) {
-            std::optional<QStringList> entries = formats[i].decode(**stored);
+            std::optional<QStringList> entries = tagFormats[i].decode(**stored);
             if (!entries) {
                 return failure(ErrorKind::invalid,
                                QStringLiteral("The list of tags can't be understood"));
@@ -88,7 +88,7 @@ Expected<TagLists> readLists(const std::string& path) {
 
 Expected<void> putBack(const std::string& path, const TagLists& before, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
-        if (const auto written = writeAttribute(path, formats[i].attribute, before[i].stored);
+        if (const auto written = writeAttribute(path, tagFormats[i].attribute, before[i].stored);
             !written) {
             return written;
         }
@@ -97,14 +97,14 @@ Expected<void> putBack(const std::string& path, const TagLists& before, std::siz
 }
 
 Expected<bool> writeLists(const std::string& path, const TagLists& before, const TagLists& after) {
-    for (std::size_t i = 0; i < formats.size(); ++i) {
+    for (std::size_t i = 0; i < tagFormats.size(); ++i) {
         if (after[i].entries == before[i].entries) {
             continue;
         }
         const QStringList& entries = after[i].entries;
         const auto value =
-            entries.isEmpty() ? std::nullopt : std::optional(formats[i].encode(entries));
-        if (const auto written = writeAttribute(path, formats[i].attribute, value); !written) {
+            entries.isEmpty() ? std::nullopt : std::optional(tagFormats[i].encode(entries));
+        if (const auto written = writeAttribute(path, tagFormats[i].attribute, value); !written) {
             Error error = written.error();
             if (const auto restored = putBack(path, before, i); !restored) {
                 error.message +=
