@@ -86,7 +86,7 @@ TEST_P(Naive, isCaught) {
         << ::testing::PrintToString(findings.breaches);
 }
 
-const auto elsewhere = Devices::outElsewhere;
+const auto otherDevice = Devices::outElsewhere;
 INSTANTIATE_TEST_SUITE_P(
     Harness, Naive,
     ::testing::Values(NaiveCase{"killedCopy", naive(Law::copies, naiveCopyOnce), killAtEachCall,
@@ -99,13 +99,13 @@ INSTANTIATE_TEST_SUITE_P(
                       NaiveCase{"overwrittenLink", naive(Law::moves, naiveMove),
                                 interfereAtEachCall, "a dangling link of the wanted name",
                                 "somebody else's"},
-                      NaiveCase{"falseSuccess", naive(Law::moves, naiveMove, elsewhere),
+                      NaiveCase{"falseSuccess", naive(Law::moves, naiveMove, otherDevice),
                                 failEachCall, "EIO at", "is said to be"},
-                      NaiveCase{"fullDevice", naive(Law::moves, naiveMove, elsewhere),
+                      NaiveCase{"fullDevice", naive(Law::moves, naiveMove, otherDevice),
                                 failFromEachCallOn, "ENOSPC from", "is whole nowhere"},
-                      NaiveCase{"lostAttributes", naive(Law::moves, naiveMove, elsewhere),
+                      NaiveCase{"lostAttributes", naive(Law::moves, naiveMove, otherDevice),
                                 runUndisturbed, "undisturbed", "is whole nowhere"},
-                      NaiveCase{"lostUpdate", naive(Law::moves, naiveMove, elsewhere),
+                      NaiveCase{"lostUpdate", naive(Law::moves, naiveMove, otherDevice),
                                 interfereAtEachCall, "writes to the source", "is whole nowhere"}),
     [](const auto& test) { return test.param.name; });
 

@@ -31,7 +31,7 @@ constexpr std::array installers = std::to_array<File>({
     {"PrinterDriver.dmg", 188 * mega, 175},
 });
 
-constexpr std::array stale = std::to_array<File>({
+constexpr std::array staleFiles = std::to_array<File>({
     {"Lease draft v2.docx", 84 * kilo, 79},      {"Passport scan.pdf", 1200 * kilo, 85},
     {"tile-samples.zip", 38 * mega, 102},        {"Workshop notes.odt", 61 * kilo, 107},
     {"Site photos.zip", 164 * mega, 111},        {"Kitchen plan.pdf", 4300 * kilo, 114},
@@ -115,7 +115,7 @@ void makeFile(const std::string& path, long long bytes, double daysAgo) {
 
 void makeDownloads(const std::string& folder) {
     make(folder, installers);
-    make(folder, stale);
+    make(folder, staleFiles);
     make(folder, archives);
     make(folder, inUse);
     for (int i = 0; i < screenshots; ++i) {
