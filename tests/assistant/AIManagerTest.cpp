@@ -272,7 +272,8 @@ TEST(AIManager, SavesAKeyOnlyWhenItIsGood) {
 
     bench.server.play("/v1/models", {.body = "{}"});
     bench.keychain.refusal = Error{ErrorKind::locked, u"The keyring is locked"_s};
-    EXPECT_EQ(save(u"sk-test"_s), u"Quillon couldn't save the key to your keyring."_s);
+    EXPECT_EQ(save(u"sk-test"_s),
+              u"Quillon couldn't save the key to your keyring. The keyring is locked"_s);
     EXPECT_FALSE(QCoro::waitFor(manager.removeKey()));
     EXPECT_TRUE(nothingChanged());
 

@@ -197,8 +197,8 @@ QCoro::Task<Expected<void>> AIManager::saveKey(QString typed) {
         [this, &key](auto done) { keychain_.save(key, account, std::move(done)); });
     const Expected<void> saved = co_await saving;
     if (!saved)
-        co_return failure(saved.error().kind,
-                          u"Quillon couldn't save the key to your %1."_s.arg(keychainName));
+        co_return failure(saved.error().kind, u"Quillon couldn't save the key to your %1. %2"_s.arg(
+                                                  keychainName, saved.error().message));
     if (life.expired())
         co_return gone();
     setKey(key);
